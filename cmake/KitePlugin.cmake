@@ -1,0 +1,20 @@
+# kite_add_plugin(NAME SOURCES file...)
+#
+# Builds the plugin NAME as a shared object from the sources, against Kite and Qt, and leaves it where the pendant finds
+# it. A file NAME.qrc or resources.qrc among the sources is compiled in.
+function(kite_add_plugin name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "OUTPUT_DIRECTORY" "SOURCES")
+    if(NOT arg_SOURCES)
+        message(FATAL_ERROR "kite_add_plugin(${name}): name the plugin's sources after SOURCES.")
+    endif()
+    if(NOT arg_OUTPUT_DIRECTORY)
+        set(arg_OUTPUT_DIRECTORY "${KITE_PLUGIN_DIR}")
+    endif()
+    add_library(${name} MODULE ${arg_SOURCES})
+    set_target_properties(${name} PROPERTIES
+        AUTOMOC ON AUTORCC ON
+        CXX_STANDARD 17 CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON
+        LIBRARY_OUTPUT_DIRECTORY "${arg_OUTPUT_DIRECTORY}")
+    target_link_libraries(${name} PRIVATE Kite::kite)
+    target_link_options(${name} PRIVATE -Wl,--no-undefined)
+endfunction()

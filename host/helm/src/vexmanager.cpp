@@ -1,0 +1,8 @@
+#include "helm/vexmanager.h"
+
+namespace helm {
+
+VexManager::VexManager() = default;
+VexManager::~VexManager() = default;
+
+} // namespace helm
