@@ -8,6 +8,7 @@
 #include "helm/managerhelper.h"
 #include "tarp/containers.h"
 
+#include <QPointer>
 #include <QVariant>
 
 namespace kite {
@@ -15,6 +16,11 @@ namespace kite {
 namespace {
 
 const char pageGroup[] = "robot.pack";
+
+int countAt(const QString& key) {
+    const brisk::ModuleObject* node = m(key);
+    return node ? node->getInt(0) : 0;
+}
 
 } // namespace
 
@@ -45,17 +51,11 @@ QString Kite::pageKey() const {
     return mName(QStringLiteral("kite"), storedName);
 }
 
-// A plugin object that is deleted by its own code must not be called again.
-void Kite::setPlugin(PluginBase* object) {
-    plugin = object;
-    if (plugin)
-        connect(plugin, &QObject::destroyed, this, [this] { plugin = nullptr; });
-}
-
 void Kite::setup() {
+    if (settingPage)
+        return;
     tarp::CenterWidget* center = instantiatedCenterWidget();
     settingPage = new PluginSettingPage(name(), storedName, center, this);
-    connect(settingPage, &QObject::destroyed, this, [this] { settingPage = nullptr; });
     if (center)
         center->addPage(this, pageKey(), settingPage->wgt());
 }
@@ -63,7 +63,7 @@ void Kite::setup() {
 void Kite::init() {
     const QString label = plugin ? plugin->getPluginLabel() : QString();
     const QString title = label.isEmpty() ? storedName : label;
-    brisk::ModuleObject* entry = ot::gyre::registerPage(this, title, QLatin1String(pageGroup), QString(), -1);
+    brisk::ModuleObject* entry = ot::gyre::registerPage(this, title, QLatin1String(pageGroup), QLatin1String(""), -1);
     if (entry)
         entry->set(this, QStringLiteral("nav"), QVariant(pageKey()), true);
     if (plugin)
@@ -96,13 +96,17 @@ void Kite::detach() {
 bool Kite::changeModelWindowStatus(bool shown) {
     if (shown == modelWindowShown)
         return false;
-    brisk::ModuleObject* node = m(mName(QStringLiteral("helm.msg"), QStringLiteral("_")));
+    const QString key = mName(QStringLiteral("helm.msg"), QStringLiteral("_"));
+    brisk::ModuleObject* node = m(key);
     if (!node)
         return false;
+    // Whoever hears of the new count may clear the tree or delete this module.
+    const QPointer<QObject> self(this);
     // No lower bound on purpose: the host or another plugin may have lowered the count in between.
     node->setValue(this, node->getInt(0) + (shown ? 1 : -1));
-    hostline::service(hostline::pluginModule()) << "Current Model Count : " << node->getInt(0);
-    modelWindowShown = shown;
+    hostline::service(hostline::pluginModule()) << "Current Model Count : " << countAt(key);
+    if (self)
+        modelWindowShown = shown;
     return true;
 }
 

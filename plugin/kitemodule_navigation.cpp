@@ -37,11 +37,13 @@ bool Kite::cancelPage(const QString& group, const QString& nav) {
     if (group.isEmpty())
         return false;
     brisk::ModuleObject* node = entriesOf(group);
-    QJsonArray entries = node ? node->exportToJson(true).toArray() : QJsonArray();
+    const QJsonValue content = node ? node->exportToJson(true) : QJsonValue();
+    QJsonArray entries = content.toArray();
     hostline::information(hostline::pluginModule()) << "kite::Kite::cancelPage : " << entries;
     removeFirst(entries, nav);
     hostline::information(hostline::pluginModule()) << "kite::Kite::cancelPage : " << entries;
-    if (node)
+    // A group that holds groups is no array; an empty one in its place would take them all away.
+    if (content.isArray())
         node->importFromJson(this, entries, true, true, true);
     return true;
 }

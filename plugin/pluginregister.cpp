@@ -4,34 +4,53 @@
 
 #include "tarp/factory.h"
 
+#include <QPointer>
 #include <QVariant>
 
-#include <memory>
+#include <utility>
 
 namespace kite {
+
+namespace {
+
+void announce(brisk::ModuleObject* node, const QString& name) {
+    if (node)
+        node->set(node, name, QVariant(), true);
+}
+
+} // namespace
 
 void PluginRegister::regist(const QString& name, std::function<PluginBase*(QObject*)> creator) {
     if (creators.contains(name))
         return;
-    creators.insert(name, std::move(creator));
+    // The text of a literal lies in the plugin's file and would go with it.
+    const QString ownName(name.constData(), name.size());
+    creators.insert(ownName, std::move(creator));
 
-    const auto createModule = [this, name](QObject* parent) -> tarp::BModule* {
-        // A creator that throws must not leave half a module behind.
-        auto module = std::make_unique<Kite>(name, parent);
-        module->setPlugin(create(name, module.get()));
-        return module.release();
-    };
     tarp::ModuleFactory* factory = bfactory();
     if (!factory->creators.contains(name)) {
-        factory->creators.insert(name, createModule);
-        factory->node->set(factory->node, name, QVariant(), true);
+        factory->creators.insert(ownName, [this, ownName](QObject* parent) { return createModule(ownName, parent); });
+        announce(factory->node, ownName);
     }
-
     brisk::PluginManager* manager = brisk::pluginManager();
     if (!manager->plugins.contains(name)) {
-        manager->plugins.insert(name, [] { return -1; });
-        manager->node->set(manager->node, name, QVariant(), true);
+        manager->plugins.insert(ownName, [] { return -1; });
+        announce(manager->node, ownName);
     }
+}
+
+// The creator is foreign code: it may throw, and it may run an event loop in which the module is deleted.
+tarp::BModule* PluginRegister::createModule(const QString& name, QObject* parent) {
+    const QPointer<Kite> module(new Kite(name, parent));
+    try {
+        PluginBase* plugin = create(name, module);
+        if (module)
+            module->plugin = plugin;
+    } catch (...) {
+        delete module;
+        throw;
+    }
+    return module;
 }
 
 PluginBase* PluginRegister::create(const QString& name, QObject* parent) {

@@ -6,14 +6,17 @@
 #include <QHBoxLayout>
 #include <QScreen>
 
-#include <memory>
-
 namespace kite {
 
 namespace {
 
 // A tool window on purpose: it gets no place of its own among the windows.
 const Qt::WindowFlags fullScreenFlags = Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint;
+
+void fillScreen(QWidget* window) {
+    if (const QScreen* screen = QGuiApplication::primaryScreen())
+        window->setGeometry(screen->geometry());
+}
 
 } // namespace
 
@@ -25,41 +28,35 @@ PluginSettingPage::PluginSettingPage(const QString& name, const QString& pluginN
 }
 
 PluginSettingPage::~PluginSettingPage() {
-    forget(savedParent);
-    QWidget* const widget = centerWidget;
-    forget(centerWidget);
-    // As a window it has no parent that would delete it.
-    if (fullScreen)
-        delete widget;
-}
-
-// A widget that its plugin deletes must leave no dangling pointer behind.
-void PluginSettingPage::remember(QWidget*& field, QWidget* widget) {
-    field = widget;
-    if (!widget)
-        return;
-    connect(widget, &QObject::destroyed, this, [this, &field] {
-        if (&field == &centerWidget)
-            fullScreen = false;
-        field = nullptr;
-    });
-}
-
-void PluginSettingPage::forget(QWidget*& field) {
-    if (field)
-        disconnect(field, &QObject::destroyed, this, nullptr);
-    field = nullptr;
+    // As a window it has no parent that would delete it, unless someone else has taken it in.
+    if (fullScreen && centerWidget && !centerWidget->parentWidget())
+        delete centerWidget;
+    // Here and not in the base, for the plugin's widgets may call back while they die.
+    delete BaseSettingPage::wgt();
 }
 
 void PluginSettingPage::createCenterWidget(QWidget* w) {
-    if (!w || !contentWgt())
+    QWidget* content = contentWgt();
+    if (!content)
         return;
-    if (fullScreen)
+    if (w && (w == content || w->isAncestorOf(content))) {
+        hostline::error(hostline::pluginModule()) << "The page of a plugin cannot stand in itself: " << w->objectName();
+        return;
+    }
+    if (fullScreen && centerWidget)
         changeFullWidget(false);
-    forget(centerWidget);
-    remember(centerWidget, w);
-    if (contentWgt()->layout())
-        contentWgt()->layout()->addWidget(w);
+    fullScreen = false;
+    centerWidget = w;
+    if (w)
+        takeIn(w);
+}
+
+void PluginSettingPage::takeIn(QWidget* widget) {
+    QWidget* content = contentWgt();
+    if (content && content->layout())
+        content->layout()->addWidget(widget);
+    else if (content)
+        widget->setParent(content);
 }
 
 bool PluginSettingPage::changeFullWidget(bool full) {
@@ -70,51 +67,59 @@ bool PluginSettingPage::changeFullWidget(bool full) {
             << "Current FullWidget Type is" << (full ? "true" : "false") << "! Change Failed!";
         return false;
     }
-    if (full)
-        toFullScreen();
-    else
-        backIntoPage();
-    fullScreen = full;
-    return true;
+    return full ? toFullScreen() : backIntoPage();
 }
 
-void PluginSettingPage::toFullScreen() {
-    remember(savedParent, centerWidget->parentWidget());
+// Every step may run the plugin's event handlers, which may call this page again or delete the widget. So the new state
+// stands before the first of them, and each step asks whether it still holds.
+bool PluginSettingPage::toFullScreen() {
+    savedParent = centerWidget->parentWidget();
     savedStyleSheet = centerWidget->styleSheet();
     savedWindowFlags = centerWidget->windowFlags();
     takeOutOfLayout();
-    centerWidget->setParent(nullptr);
-    centerWidget->setWindowFlags(fullScreenFlags);
-    if (const QScreen* screen = QGuiApplication::primaryScreen())
-        centerWidget->setGeometry(screen->geometry());
-    centerWidget->setStyleSheet(savedStyleSheet);
-    centerWidget->ensurePolished();
-    centerWidget->repaint();
-    centerWidget->raise();
-    centerWidget->show();
-    centerWidget->activateWindow();
+    fullScreen = true;
+    doWhile(true,
+            {[](QWidget* w) { w->setParent(nullptr); }, [](QWidget* w) { w->setWindowFlags(fullScreenFlags); },
+             [](QWidget* w) { fillScreen(w); }, [this](QWidget* w) { w->setStyleSheet(savedStyleSheet); },
+             [](QWidget* w) { w->ensurePolished(); }, [](QWidget* w) { w->repaint(); }, [](QWidget* w) { w->raise(); },
+             [](QWidget* w) { w->show(); }, [](QWidget* w) { w->activateWindow(); }});
+    return true;
 }
 
-// The first item is looked at and no other. When it is another widget than the centre widget, it goes back to its
-// place.
-void PluginSettingPage::takeOutOfLayout() {
-    auto* layout = contentWgt() ? qobject_cast<QHBoxLayout*>(contentWgt()->layout()) : nullptr;
-    std::unique_ptr<QLayoutItem> item(layout ? layout->takeAt(0) : nullptr);
-    if (item && item->widget() != centerWidget)
-        layout->insertItem(0, item.release());
-}
-
-void PluginSettingPage::backIntoPage() {
-    centerWidget->setParent(savedParent ? savedParent : contentWgt());
-    forget(savedParent);
-    centerWidget->setWindowFlags(savedWindowFlags);
-    centerWidget->setStyleSheet(savedStyleSheet);
-    centerWidget->ensurePolished();
-    if (contentWgt() && contentWgt()->layout()) {
-        contentWgt()->layout()->addWidget(centerWidget);
-        contentWgt()->layout()->update();
+void PluginSettingPage::doWhile(bool full, std::initializer_list<std::function<void(QWidget*)>> steps) {
+    const QPointer<PluginSettingPage> self(this);
+    const QPointer<QWidget> widget(centerWidget);
+    for (const auto& step : steps) {
+        if (!self || !widget || widget != centerWidget || fullScreen != full)
+            return;
+        step(widget);
     }
-    centerWidget->show();
+}
+
+// Only the first item is looked at.
+void PluginSettingPage::takeOutOfLayout() {
+    QLayout* layout = contentWgt() ? contentWgt()->layout() : nullptr;
+    QLayoutItem* first = layout ? layout->itemAt(0) : nullptr;
+    if (first && first->widget() == centerWidget)
+        delete layout->takeAt(0);
+}
+
+bool PluginSettingPage::backIntoPage() {
+    const QPointer<QWidget> home = savedParent ? savedParent.data() : contentWgt();
+    // Without a page there is nowhere to go back to; the window then goes with this object.
+    if (!home)
+        return false;
+    fullScreen = false;
+    doWhile(false,
+            {[home](QWidget* w) { w->setParent(home); }, [this](QWidget* w) { w->setWindowFlags(savedWindowFlags); },
+             [this](QWidget* w) { w->setStyleSheet(savedStyleSheet); }, [](QWidget* w) { w->ensurePolished(); },
+             [this](QWidget* w) { takeIn(w); }, [this](QWidget*) { updateLayout(); }, [](QWidget* w) { w->show(); }});
+    return true;
+}
+
+void PluginSettingPage::updateLayout() {
+    if (contentWgt() && contentWgt()->layout())
+        contentWgt()->layout()->update();
 }
 
 } // namespace kite

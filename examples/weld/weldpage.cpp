@@ -17,6 +17,13 @@ namespace {
 const double mostHeatKjPerMm = 0.9;
 const double leastHeatKjPerMm = 0.15;
 
+// Takes the height of its row, so that it stands beside the middle of the box.
+QLabel* makeLabel(const QString& text) {
+    auto* label = new QLabel(text);
+    label->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
+    return label;
+}
+
 QDoubleSpinBox* makeBox(double least, double most, double step, const QString& unit) {
     auto* box = new QDoubleSpinBox;
     box->setRange(least, most);
@@ -57,11 +64,11 @@ QWidget* WeldPage::makeValues() {
     m_name->setObjectName(QStringLiteral("procedureName"));
     auto* form = new QFormLayout(group);
     form->setVerticalSpacing(8);
-    form->addRow(tr("Name"), m_name);
-    form->addRow(tr("Current"), m_current);
-    form->addRow(tr("Voltage"), m_voltage);
-    form->addRow(tr("Travel speed"), m_travel);
-    form->addRow(tr("Gas flow"), m_gas);
+    form->addRow(makeLabel(tr("Name")), m_name);
+    form->addRow(makeLabel(tr("Current")), m_current);
+    form->addRow(makeLabel(tr("Voltage")), m_voltage);
+    form->addRow(makeLabel(tr("Travel speed")), m_travel);
+    form->addRow(makeLabel(tr("Gas flow")), m_gas);
 
     connect(m_current, QOverload<int>::of(&QSpinBox::valueChanged), this, &WeldPage::takeValues);
     for (QDoubleSpinBox* box : {m_voltage, m_travel, m_gas})
@@ -71,9 +78,7 @@ QWidget* WeldPage::makeValues() {
 
 QWidget* WeldPage::makeResult() {
     auto* group = new QGroupBox(tr("Heat input"));
-    QFont large = m_heat->font();
-    large.setPixelSize(28);
-    m_heat->setFont(large);
+    m_heat->setProperty("value", true);
     m_heat->setObjectName(QStringLiteral("heatInput"));
     m_verdict->setWordWrap(true);
     auto* layout = new QVBoxLayout(group);

@@ -9,6 +9,7 @@
 #include "tarp/bmodule.h"
 
 #include <QList>
+#include <QPointer>
 #include <QString>
 #include <QStringList>
 #include <QWidget>
@@ -20,10 +21,12 @@ class PluginRegister;
 /// The pendant's module that stands for one plugin. It owns the plugin object and the plugin's page, hands the
 /// pendant's lifecycle on to the plugin, and is the one place where a plugin's widgets are entered into the pendant.
 ///
-/// The pendant makes it; a plugin reaches its own as the parent() of its PluginBase. Every operation may be called from
-/// the plugin's constructor on; what needs the page does nothing, and says false, before setup() has made it.
+/// The pendant makes it; a plugin reaches its own as the parent() of its PluginBase, by a static_cast (the class has no
+/// meta-object of its own, so qobject_cast does not know it). Every operation may be called from the plugin's
+/// constructor on until detach(), not from its destructor; what needs the page does nothing, and says false, before
+/// setup() has made it.
 ///
-/// User-interface thread only. Not a Q_OBJECT of its own: its meta-object is that of tarp::BModule.
+/// User-interface thread only. A module must be gone before the process exits.
 /// \since 0.1
 class KITE_EXPORT Kite : public tarp::BModule {
 public:
@@ -45,14 +48,16 @@ public:
     void idle() override;
     void detach() override;
 
-    /// Shows `w` on the plugin's page, which takes it over (PluginSettingPage::createCenterWidget). Null, and a call
-    /// before setup(), does nothing: the widget is then still yours.
+    /// Shows `w` on the plugin's page, which takes it over (PluginSettingPage::createCenterWidget). Does nothing for
+    /// null, before setup() and once the page has been deleted: the widget is then still yours.
     void createCenterWidgte(QWidget* w);
 
     /// Switches the centre widget to full screen or back (PluginSettingPage::changeFullWidget).
+    /// \return false when there is no page yet or no centre widget, and when it already is that way
     bool changeFullScreen(bool full);
 
-    /// Counts this plugin's model window as open or closed in "helm.msg._", a count that all plugins share.
+    /// Counts this plugin's model window as open or closed in "helm.msg._", a count that all plugins share and the host
+    /// may change, so that it can fall below zero. Say when yours is closed: the destructor does not.
     /// \return false when `shown` is what was last passed (closed, at first); nothing changes then
     bool changeModelWindowStatus(bool shown);
 
@@ -66,12 +71,15 @@ public:
 
     /// Puts `w` into the status bar, which takes it over.
     /// \param index tells the plugin's items apart; it is no position
-    /// \return false for null, for an index that is in use and where there is no status bar; `w` is then still yours
+    /// \return false for null, for an index that is in use and where the pendant has no status bar, or none with the
+    /// place
+    ///         for plugins; `w` is then still yours
     bool createStatusBar(QWidget* w, int index);
 
     /// Adds `w` to the side bar, which takes it over.
     /// \param pageId tells the plugin's side-bar pages apart; empty for the plugin's name
-    /// \return false for null and for a page id that is in use; `w` is then still yours
+    /// \return false for null, for a page id that is in use and where the pendant has no side bar; `w` is then still
+    /// yours
     bool createRightExpandWidgte(QWidget* w, const QString& pageId);
 
     /// Switches the side bar to that page and opens it. A page that is not there changes nothing.
@@ -82,19 +90,19 @@ public:
 
     /// Removes the first navigation entry of `group` whose "nav" is exactly `nav`. The log tells of the entries before
     /// and after.
-    /// \param group dotted path of a page group, "robot.pack" for plugins
+    /// \param group dotted path of a page group, "robot.pack" for plugins; a group that holds no entries is left alone
     /// \return false for an empty group, otherwise true, also when there was no such entry
     bool cancelPage(const QString& group, const QString& nav);
 
 private:
     friend class PluginRegister;
 
-    void setPlugin(PluginBase* object);
     QString pageKey() const;
     QString sideBarKey(const QString& pageId) const;
 
-    PluginBase* plugin = nullptr;
-    PluginSettingPage* settingPage = nullptr;
+    // Null once the object is deleted, whoever does it.
+    QPointer<PluginBase> plugin;
+    QPointer<PluginSettingPage> settingPage;
     QString storedName; ///< what pluginName() gives out; the field cannot have the operation's name
     bool modelWindowShown = false;
 };

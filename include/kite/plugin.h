@@ -10,6 +10,22 @@
 
 namespace kite {
 
+/// Whether `name` can be a plugin's name: letters, digits, "_" and "-", and at least one of them. A dot would split the
+/// keys under which the pendant keeps the plugin's things, a "#" would make a list of them.
+/// \since 0.1
+constexpr bool isPluginName(const char* name) {
+    if (!*name)
+        return false;
+    for (; *name; ++name) {
+        const char c = *name;
+        const bool letter = (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || static_cast<unsigned char>(c) > 127;
+        const bool digit = c >= '0' && c <= '9';
+        if (!letter && !digit && c != '_' && c != '-')
+            return false;
+    }
+    return true;
+}
+
 /// What KITE_PLUGIN runs when the shared object is loaded. \return true
 /// \since 0.1
 template <typename Class> bool registerPlugin(const QString& name) {
@@ -31,7 +47,7 @@ template <typename Class> bool registerPlugin(const QString& name) {
 ///
 /// \since 0.1
 #define KITE_PLUGIN(Class, name)                                                                                       \
-    static_assert(sizeof("" name) > 1, "KITE_PLUGIN: give the plugin a name that is not empty");                       \
+    static_assert(::kite::isPluginName("" name), "KITE_PLUGIN: a plugin's name is made of letters, digits, _ and -");  \
     static_assert(std::is_base_of<::kite::PluginBase, Class>::value,                                                   \
                   "KITE_PLUGIN: the plugin's class derives from kite::PluginBase");                                    \
     static_assert(std::is_constructible<Class, QObject*>::value,                                                       \

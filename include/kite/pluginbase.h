@@ -16,8 +16,9 @@ namespace kite {
 ///
 ///     constructor -> init -> afterInit -> ( render -> idle )* -> detach -> destructor
 ///
-/// An exception that leaves one of these calls is shown in the pendant's message list under the plugin's name; the
-/// pendant goes on with the next plugin.
+/// An exception that leaves one of these calls, save the destructor, is shown in the pendant's message list under the
+/// plugin's name, and the pendant goes on with the next plugin. After one from the constructor or init() the plugin
+/// gets no more calls.
 ///
 /// \since 0.1
 class KITE_EXPORT PluginBase : public QObject {
@@ -32,11 +33,12 @@ public:
     virtual void init();
     /// Every plugin has been initialised.
     virtual void afterInit();
-    /// The plugin's page is about to be shown.
+    /// The plugin's page comes into view.
     virtual void render();
     /// The plugin's page has been left.
     virtual void idle();
-    /// The pendant is closing; the last call before the destructor.
+    /// The pendant is closing; the last call before the destructor. The plugin's module is whole here, and no longer in
+    /// the destructor.
     virtual void detach();
 
     /// Whether the plugin's page gets the pendant's style sheet each time it is shown; true unless set otherwise.

@@ -4,8 +4,12 @@
 
 #include "helm/basesettingpage.h"
 
+#include <QPointer>
 #include <QString>
 #include <QWidget>
+
+#include <functional>
+#include <initializer_list>
 
 namespace kite {
 
@@ -23,28 +27,34 @@ public:
     /// \param parent     the widget in which the page stands
     /// \param owner      the plugin's module; owns the page
     PluginSettingPage(const QString& name, const QString& pluginName, QWidget* parent, QObject* owner);
-    /// A centre widget that is full screen goes with its page.
+    /// Deletes the page's widget with all that is in it, and a centre widget that is full screen unless someone else
+    /// has become its parent.
     ~PluginSettingPage() override;
 
-    /// Shows `w` as the plugin's centre widget, filling the page, which becomes its parent. A second call adds a second
-    /// widget beside the first; full screen then takes the last one. Null is ignored. The plugin may delete its widget
-    /// at any time.
+    /// Makes `w` the plugin's centre widget, which fills the page; the page's content becomes its parent. A centre
+    /// widget that is full screen goes back into the page before. After a second call both widgets stand side by side,
+    /// and full screen takes the last one. With null there is no centre widget; the former one stays in the page. Once
+    /// the page's widget has been deleted, nothing happens and `w` is still yours. A widget that contains the page is
+    /// refused with an error line in the log. The plugin may delete its widget at any time.
     void createCenterWidget(QWidget* w);
 
-    /// Switches the centre widget to full screen, or back into the page with its former parent, window flags and style
-    /// sheet.
-    /// \return false when there is no centre widget; false, and an error line in the log, when it already is that way
+    /// Lifts the centre widget out into a window without parent and frame that fills the primary screen and stays on
+    /// top, or puts it back at the end of the page with its former window flags and style sheet, and shows it. \return
+    /// false when there is no centre widget, or no page left to put it back into; false, and an error line in the
+    ///         log, when it already is that way
     bool changeFullWidget(bool full);
 
 private:
-    void toFullScreen();
-    void backIntoPage();
+    bool toFullScreen();
+    bool backIntoPage();
+    void takeIn(QWidget* widget);
     void takeOutOfLayout();
-    void remember(QWidget*& field, QWidget* widget);
-    void forget(QWidget*& field);
+    void updateLayout();
+    void doWhile(bool full, std::initializer_list<std::function<void(QWidget*)>> steps);
 
-    QWidget* centerWidget = nullptr;
-    QWidget* savedParent = nullptr;
+    // Null once the widget is deleted, whoever does it.
+    QPointer<QWidget> centerWidget;
+    QPointer<QWidget> savedParent;
     QString savedStyleSheet;
     Qt::WindowFlags savedWindowFlags;
     bool fullScreen = false;

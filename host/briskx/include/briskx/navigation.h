@@ -19,7 +19,9 @@ namespace gyre {
 /// \param group  dotted path of the page group
 /// \param icon   name of an icon of the theme or path of a picture; empty for the group's own
 /// \param index  place among the entries of the group, -1 for the end
-/// \return the entry's data node, owned by the tree; null for an empty group
+/// \return the entry's data node, owned by the tree; null for an empty group, and with a line in the message list where
+/// a
+///         group would hold both pages and groups
 BRISK_EXPORT brisk::ModuleObject* registerPage(tarp::BModule* module, const QString& title, const QString& group,
                                                const QString& icon, int index);
 
