@@ -11,17 +11,27 @@ constexpr int indexAbove = 16;
 
 namespace brisk {
 
-ModuleObject* ChildList::find(QStringView name, uint hash) const {
+bool ChildList::matches(const Entry& entry, QStringView name, uint tag) {
+    return entry.tag == tag && sameName(entry.node->m_name, name);
+}
+
+ModuleObject* ChildList::find(QStringView name) const {
     if (!m_index.isEmpty())
-        return findIndexed(name, hash);
+        return findIndexed(name);
+    const uint tag = nameTag(name);
     for (const Entry& entry : m_entries) {
-        if (entry.hash == hash && sameName(entry.node->m_name, name))
+        if (matches(entry, name, tag))
             return entry.node;
     }
     return nullptr;
 }
 
-ModuleObject* ChildList::findIndexed(QStringView name, uint hash) const {
+ModuleObject* ChildList::findIndexed(QStringView name) const {
+    // An item mostly stands at the place its name says.
+    const int number = itemNumber(name);
+    if (number >= 0 && number < count() && matches(m_entries.at(number), name, nameTag(name)))
+        return at(number);
+    const uint hash = nameHash(name);
     const auto end = m_index.constEnd();
     for (auto entry = m_index.constFind(hash); entry != end && entry.key() == hash; ++entry) {
         if (sameName(entry.value()->m_name, name))
@@ -41,26 +51,27 @@ int ChildList::indexOf(const ModuleObject* node) const {
 }
 
 void ChildList::reserve(int count) {
-    m_entries.reserve(size_t(count));
+    m_entries.reserve(count);
     if (count > indexAbove)
         m_index.reserve(count);
 }
 
 void ChildList::insert(int index, ModuleObject* node) {
-    const uint hash = nameHash(node->m_name);
-    m_entries.insert(m_entries.begin() + index, Entry{hash, node});
+    // insert() alone would move all of them for each new one.
+    if (count() == m_entries.capacity())
+        m_entries.reserve(2 * count());
+    m_entries.insert(index, Entry{nameTag(node->m_name), node});
     if (!m_index.isEmpty())
-        m_index.insert(hash, node);
+        m_index.insert(nameHash(node->m_name), node);
     else if (count() > indexAbove)
         buildIndex();
     m_nextNumber = qMax(m_nextNumber, itemNumber(node->m_name) + 1);
 }
 
 void ChildList::removeAt(int index) {
-    const auto entry = m_entries.begin() + index;
     if (!m_index.isEmpty())
-        m_index.remove(entry->hash, entry->node);
-    m_entries.erase(entry);
+        m_index.remove(nameHash(at(index)->m_name), at(index));
+    m_entries.remove(index);
 }
 
 ModuleObject* ChildList::takeLast() {
@@ -76,7 +87,7 @@ void ChildList::renumber() {
         if (node->m_name == name)
             continue;
         node->m_name = sharedName(name);
-        m_entries[size_t(i)].hash = nameHash(name);
+        m_entries[i].tag = nameTag(name);
     }
     m_nextNumber = count();
     m_index.clear();
@@ -87,7 +98,7 @@ void ChildList::renumber() {
 void ChildList::buildIndex() {
     m_index.reserve(count());
     for (const Entry& entry : m_entries)
-        m_index.insert(entry.hash, entry.node);
+        m_index.insert(nameHash(entry.node->m_name), entry.node);
 }
 
 } // namespace brisk

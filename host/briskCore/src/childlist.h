@@ -2,8 +2,7 @@
 
 #include <QMultiHash>
 #include <QStringView>
-
-#include <vector>
+#include <QVarLengthArray>
 
 namespace brisk {
 
@@ -12,10 +11,10 @@ class ModuleObject;
 /// The children of a node in order, found by name. Owns nothing and tells nobody.
 class ChildList {
 public:
-    int count() const { return int(m_entries.size()); }
-    bool isEmpty() const { return m_entries.empty(); }
-    ModuleObject* at(int index) const { return m_entries[size_t(index)].node; }
-    ModuleObject* find(QStringView name, uint hash) const;
+    int count() const { return m_entries.size(); }
+    bool isEmpty() const { return m_entries.isEmpty(); }
+    ModuleObject* at(int index) const { return m_entries.at(index).node; }
+    ModuleObject* find(QStringView name) const;
     int indexOf(const ModuleObject* node) const;
 
     void reserve(int count);
@@ -30,17 +29,18 @@ public:
     void setNextNumber(int number) { m_nextNumber = number; }
 
 private:
-    // The hash beside the pointer lets a search run through the entries without touching the nodes.
+    // The tag of the name beside the pointer lets a search run through the entries without touching the nodes.
     struct Entry {
-        uint hash;
+        uint tag;
         ModuleObject* node;
     };
 
-    ModuleObject* findIndexed(QStringView name, uint hash) const;
+    static bool matches(const Entry& entry, QStringView name, uint tag);
+    ModuleObject* findIndexed(QStringView name) const;
     void buildIndex();
 
-    std::vector<Entry> m_entries;
-    QMultiHash<uint, ModuleObject*> m_index; // empty while the children are few
+    QVarLengthArray<Entry, 4> m_entries;     // most nodes have no more, and so need no second block of memory
+    QMultiHash<uint, ModuleObject*> m_index; // by nameHash(); empty while the children are few
     int m_nextNumber = 0;
 };
 

@@ -26,9 +26,11 @@ bool ModuleManager::writeToJson(const QString& filePath, const QJsonValue& json,
                                    : json.isArray() ? QJsonDocument(json.toArray())
                                                     : QJsonDocument(QJsonArray{json});
     QSaveFile file(filePath);
-    if (!file.open(QIODevice::WriteOnly))
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         return false;
-    file.write(document.toJson(indented ? QJsonDocument::Indented : QJsonDocument::Compact));
+    const QByteArray text = document.toJson(indented ? QJsonDocument::Indented : QJsonDocument::Compact);
+    if (file.write(text) != text.size())
+        file.cancelWriting(); // commit() would take a file that a full disk cut short for whole
     return file.commit();
 }
 

@@ -5,6 +5,7 @@
 
 #include <QMetaMethod>
 
+#include <array>
 #include <atomic>
 
 namespace brisk {
@@ -16,26 +17,45 @@ std::atomic<int> touchedListeners{0};
 
 } // namespace
 
-void ModuleObject::connectNotify(const QMetaMethod& signal) {
-    if (signal == QMetaMethod::fromSignal(&ModuleObject::changed))
-        setFlag(HearsChanged, true);
-    else if (signal == QMetaMethod::fromSignal(&ModuleObject::touched))
-        setFlag(HearsTouched, true);
-    else
-        updateListeners();
+struct ModuleObject::Heard {
+    QMetaMethod signal;
+    Flag flag;
+};
+
+const std::array<ModuleObject::Heard, 5>& ModuleObject::hearable() {
+    static const std::array<Heard, 5> signalFlags{{
+        {QMetaMethod::fromSignal(&ModuleObject::changed), HearsChanged},
+        {QMetaMethod::fromSignal(&ModuleObject::inserted), HearsInserted},
+        {QMetaMethod::fromSignal(&ModuleObject::removed), HearsRemoved},
+        {QMetaMethod::fromSignal(&ModuleObject::cleared), HearsCleared},
+        {QMetaMethod::fromSignal(&ModuleObject::touched), HearsTouched},
+    }};
+    return signalFlags;
 }
 
+void ModuleObject::connectNotify(const QMetaMethod& signal) {
+    for (const Heard& heard : hearable()) {
+        if (signal == heard.signal)
+            setFlag(heard.flag, true);
+    }
+}
+
+// Qt may call this with its lock on connections held, so the question who still listens waits for the next change.
 void ModuleObject::disconnectNotify(const QMetaMethod& signal) {
     Q_UNUSED(signal)
-    updateListeners();
+    setFlag(ListenersLeft, true);
+}
+
+bool ModuleObject::hears(Flag flag) {
+    if ((m_flags & flag) && (m_flags & ListenersLeft))
+        updateListeners();
+    return m_flags & flag;
 }
 
 void ModuleObject::updateListeners() {
-    setFlag(HearsChanged, isSignalConnected(QMetaMethod::fromSignal(&ModuleObject::changed)));
-    setFlag(HearsInserted, isSignalConnected(QMetaMethod::fromSignal(&ModuleObject::inserted)));
-    setFlag(HearsRemoved, isSignalConnected(QMetaMethod::fromSignal(&ModuleObject::removed)));
-    setFlag(HearsCleared, isSignalConnected(QMetaMethod::fromSignal(&ModuleObject::cleared)));
-    setFlag(HearsTouched, isSignalConnected(QMetaMethod::fromSignal(&ModuleObject::touched)));
+    setFlag(ListenersLeft, false);
+    for (const Heard& heard : hearable())
+        setFlag(heard.flag, isSignalConnected(heard.signal));
 }
 
 void ModuleObject::setFlag(Flag flag, bool on) {
@@ -47,7 +67,7 @@ void ModuleObject::setFlag(Flag flag, bool on) {
 }
 
 void ModuleObject::announceChanged(const QVariant& previous, QObject* sender) {
-    if (m_flags & HearsChanged) {
+    if (hears(HearsChanged)) {
         const NodeGuard self(this);
         const QVariant present = m_value; // a slot may write again
         emit changed(present, previous, sender);
@@ -59,7 +79,7 @@ void ModuleObject::announceChanged(const QVariant& previous, QObject* sender) {
 
 void ModuleObject::announceInserted(ModuleObject* child, QObject* sender) {
     const NodeGuard self(this);
-    if (m_flags & HearsInserted)
+    if (hears(HearsInserted))
         emit inserted(child, m_children->indexOf(child));
     if (self)
         announceTouched(sender);
@@ -67,7 +87,7 @@ void ModuleObject::announceInserted(ModuleObject* child, QObject* sender) {
 
 void ModuleObject::announceRemoved(const QString& name, QObject* sender) {
     const NodeGuard self(this);
-    if (m_flags & HearsRemoved)
+    if (hears(HearsRemoved))
         emit removed(name);
     if (self)
         announceTouched(sender);
@@ -75,7 +95,7 @@ void ModuleObject::announceRemoved(const QString& name, QObject* sender) {
 
 void ModuleObject::announceCleared(QObject* sender) {
     const NodeGuard self(this);
-    if (m_flags & HearsCleared)
+    if (hears(HearsCleared))
         emit cleared(sender);
     if (self)
         announceTouched(sender);
@@ -88,7 +108,7 @@ void ModuleObject::announceTouched(QObject* sender) {
     const NodeGuard origin(this);
     for (ModuleObject* node = this; node;) {
         const NodeGuard at(node);
-        if (node->m_flags & HearsTouched)
+        if (node->hears(HearsTouched))
             emit node->touched(this, sender);
         if (!origin || !at)
             return;

@@ -123,9 +123,9 @@ void ModuleObject::replaceChildren(QObject* sender, ModuleObject* source, bool n
         childAt(i)->m_parent = this;
     if (!notify)
         return;
-    if (hadChildren && (m_flags & HearsCleared))
+    if (hadChildren && hears(HearsCleared))
         emit cleared(sender);
-    for (int i = 0; self && (m_flags & HearsInserted) && i < cmobjCount(); ++i)
+    for (int i = 0; self && hears(HearsInserted) && i < cmobjCount(); ++i)
         emit inserted(childAt(i), i);
     if (self)
         announceTouched(sender);

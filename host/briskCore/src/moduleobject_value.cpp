@@ -3,12 +3,17 @@
 #include "childlist.h"
 #include "treewalk.h"
 
+#include <QJsonValue>
+
 namespace brisk {
 
 namespace {
 
 template <typename T> T read(QVariant value, const T& fallback) {
-    return value.isValid() && value.convert(qMetaTypeId<T>()) ? value.value<T>() : fallback;
+    if (value.userType() == QMetaType::QJsonValue)
+        value = value.toJsonValue().toVariant();
+    const bool holdsNothing = !value.isValid() || value.userType() == QMetaType::Nullptr;
+    return !holdsNothing && value.convert(qMetaTypeId<T>()) ? value.value<T>() : fallback;
 }
 
 } // namespace
@@ -48,7 +53,7 @@ void ModuleObject::set(QObject* sender, const QString& key, const QVariant& valu
 
 void ModuleObject::trigger() {
     const QVariant present = value();
-    if (m_flags & HearsChanged)
+    if (hears(HearsChanged))
         emit changed(present, present, nullptr);
 }
 

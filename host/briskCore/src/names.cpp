@@ -3,21 +3,32 @@
 #include <QMutex>
 #include <QSet>
 
-#include <cstring>
-
 namespace {
 
 constexpr int maxItemDigits = 9; // fits an int
 constexpr int firstSweep = 4096;
+
+quint64 mixed(quint64 hash, quint64 word) {
+    hash = (hash ^ word) * Q_UINT64_C(0x9e3779b97f4a7c15);
+    return hash ^ (hash >> 32);
+}
+
+uint folded(quint64 hash) {
+    return uint(hash ^ (hash >> 29));
+}
 
 // Names come and go with items ("#1", "#2", ...), so those that no node holds any more are swept out now and then.
 class NamePool {
 public:
     QString shared(const QString& name) {
         const QMutexLocker locker(&m_mutex);
+        const auto known = m_names.constFind(name);
+        if (known != m_names.constEnd())
+            return *known;
         if (m_names.size() >= m_nextSweep)
             sweep();
-        return *m_names.insert(name);
+        // A copy of its own: a literal's characters go with the plugin that it came from.
+        return *m_names.insert(QString(name.constData(), name.size()));
     }
 
 private:
@@ -41,16 +52,19 @@ private:
 namespace brisk {
 
 uint nameHash(QStringView name) {
-    uint hash = 0;
-    for (const QChar c : name)
-        hash = hashStep(hash, c);
-    return hash;
-}
-
-bool sameName(QStringView a, QStringView b) {
-    if (a.size() != b.size())
-        return false;
-    return a.isEmpty() || std::memcmp(a.data(), b.data(), size_t(a.size()) * sizeof(QChar)) == 0;
+    const qsizetype size = name.size();
+    quint64 hash = quint64(size);
+    if (size < charsPerWord) {
+        quint64 word = 0;
+        for (const QChar c : name)
+            word = (word << 16) | c.unicode();
+        return folded(mixed(hash, word));
+    }
+    for (qsizetype i = 0; i + charsPerWord <= size; i += charsPerWord)
+        hash = mixed(hash, wordAt(name.data() + i));
+    if (size % charsPerWord != 0)
+        hash = mixed(hash, wordAt(name.data() + size - charsPerWord));
+    return folded(hash);
 }
 
 QString sharedName(const QString& name) {
@@ -76,23 +90,6 @@ int itemNumber(QStringView name) {
         number = number * 10 + digit;
     }
     return number;
-}
-
-PathReader::PathReader(QStringView path)
-    : m_at(path.data()), m_end(path.data() + path.size()), m_more(!path.isEmpty()) {}
-
-bool PathReader::next() {
-    if (!m_more)
-        return false;
-    const QChar* start = m_at;
-    m_hash = 0;
-    for (; m_at != m_end && *m_at != QLatin1Char('.'); ++m_at)
-        m_hash = hashStep(m_hash, *m_at);
-    m_name = QStringView(start, m_at);
-    m_more = m_at != m_end;
-    if (m_more)
-        ++m_at;
-    return true;
 }
 
 } // namespace brisk

@@ -3,15 +3,43 @@
 #include <QString>
 #include <QStringView>
 
+#include <algorithm>
+#include <cstring>
+
 namespace brisk {
 
-/// One step of the hash by which children are found.
-inline uint hashStep(uint hash, QChar c) {
-    return hash * 31u + c.unicode();
-}
-uint nameHash(QStringView name);
+/// Names are compared and hashed four characters at a time: they are most of the cost of a look-up.
+constexpr qsizetype charsPerWord = 4;
 
-bool sameName(QStringView a, QStringView b);
+inline quint64 wordAt(const QChar* chars) {
+    quint64 word;
+    std::memcpy(&word, chars, sizeof word);
+    return word;
+}
+
+/// Tells most names apart at the cost of a few instructions: "cf1", "cf2", "#7", "pos", "ori".
+inline uint nameTag(QStringView name) {
+    if (name.isEmpty())
+        return 0;
+    const qsizetype last = name.size() - 1;
+    return uint(last + 1) << 26 ^ uint(name.at(0).unicode()) << 13 ^ name.at(last).unicode();
+}
+
+inline bool sameName(QStringView a, QStringView b) {
+    const qsizetype size = a.size();
+    if (size != b.size())
+        return false;
+    if (size < charsPerWord)
+        return std::equal(a.begin(), a.end(), b.begin());
+    for (qsizetype i = 0; i + charsPerWord <= size; i += charsPerWord) {
+        if (wordAt(a.data() + i) != wordAt(b.data() + i))
+            return false;
+    }
+    return wordAt(a.data() + size - charsPerWord) == wordAt(b.data() + size - charsPerWord);
+}
+
+/// The hash by which one of many children is found.
+uint nameHash(QStringView name);
 
 /// The one copy of `name` that all nodes of that name share.
 QString sharedName(const QString& name);
@@ -20,23 +48,5 @@ QString sharedName(const QString& name);
 QString itemName(int number);
 /// "#7" -> 7; -1 for what is no item's name.
 int itemNumber(QStringView name);
-
-/// Reads a dotted path part by part and allocates nothing. "a..b" -> "a", "", "b"; an empty path has no parts.
-class PathReader {
-public:
-    explicit PathReader(QStringView path);
-
-    bool next();
-    bool atEnd() const { return !m_more; }
-    QStringView name() const { return m_name; }
-    uint hash() const { return m_hash; }
-
-private:
-    const QChar* m_at;
-    const QChar* m_end;
-    QStringView m_name;
-    uint m_hash = 0;
-    bool m_more;
-};
 
 } // namespace brisk

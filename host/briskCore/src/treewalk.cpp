@@ -3,6 +3,7 @@
 #include "childlist.h"
 #include "names.h"
 #include "nodeguard.h"
+#include "pathreader.h"
 
 namespace brisk {
 
@@ -18,18 +19,18 @@ bool mayMake(const ModuleObject* node, QStringView name, bool asNext) {
 ModuleObject* TreeWalk::find(ModuleObject* node, const QString& path) {
     PathReader part(path);
     while (node && part.next())
-        node = node->m_children ? node->m_children->find(part.name(), part.hash()) : nullptr;
+        node = node->m_children ? node->m_children->find(part.name()) : nullptr;
     return node;
 }
 
 ModuleObject* TreeWalk::findChild(const ModuleObject* node, const QString& name) {
-    return node->m_children ? node->m_children->find(name, nameHash(name)) : nullptr;
+    return node->m_children ? node->m_children->find(name) : nullptr;
 }
 
 ModuleObject* TreeWalk::findOrMake(ModuleObject* node, const QString& path, const Making& making) {
     PathReader part(path);
     while (part.next()) {
-        ModuleObject* child = node->m_children ? node->m_children->find(part.name(), part.hash()) : nullptr;
+        ModuleObject* child = node->m_children ? node->m_children->find(part.name()) : nullptr;
         if (!child)
             return make(node, part, making);
         node = child;

@@ -16,8 +16,8 @@ bool ContainerPages::add(QObject* sender, const QString& key, QWidget* page) {
     if (!page || contains(key) || m_layout->indexOf(page) >= 0)
         return false;
     page->hide();
-    m_pages.append({key, page, sender});
     m_layout->addWidget(page, 1);
+    m_pages.append({key, page, sender});
     connect(page, &QObject::destroyed, this, &ContainerPages::lose);
     return true;
 }

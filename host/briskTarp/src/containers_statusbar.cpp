@@ -18,9 +18,15 @@ struct StatusBar::Private {
         return -1;
     }
 
+    bool mayAdd(const QString& key, const QWidget* item) const {
+        return item && indexOf(key) < 0 && layout->indexOf(const_cast<QWidget*>(item)) < 0;
+    }
+
+    // An item that its plugin has taken elsewhere is no longer in the layout, so places are counted there.
     void insert(int index, const QString& key, QWidget* item, int stretch) {
+        const int place = index < items.size() ? layout->indexOf(items.at(index).second) : -1;
         items.insert(index, {key, item});
-        layout->insertWidget(index, item, stretch);
+        layout->insertWidget(place, item, stretch);
         connect(item, &QObject::destroyed, q, [this, key] { items.removeAt(indexOf(key)); });
     }
 
@@ -41,7 +47,7 @@ StatusBar::~StatusBar() {
 }
 
 bool StatusBar::addItem(QObject*, const QString& key, QWidget* item, int stretch) {
-    if (!item || d->indexOf(key) >= 0)
+    if (!d->mayAdd(key, item))
         return false;
     d->insert(d->items.size(), key, item, stretch);
     return true;
@@ -49,7 +55,7 @@ bool StatusBar::addItem(QObject*, const QString& key, QWidget* item, int stretch
 
 bool StatusBar::addBeforeItem(QObject*, const QString& key, const QString& beforeKey, QWidget* item) {
     const int before = d->indexOf(beforeKey);
-    if (!item || before < 0 || d->indexOf(key) >= 0)
+    if (before < 0 || !d->mayAdd(key, item))
         return false;
     d->insert(before, key, item, /*stretch*/ 0);
     return true;

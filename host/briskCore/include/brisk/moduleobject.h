@@ -8,6 +8,7 @@
 #include <QString>
 #include <QVariant>
 
+#include <array>
 #include <memory>
 
 class QJsonArray;
@@ -122,11 +123,13 @@ signals:
     void changed(const QVariant& value, const QVariant& previous, QObject* sender);
     /// A child came in at `index`.
     void inserted(brisk::ModuleObject* child, int index);
-    /// The child of that name went away; it is deleted when this is emitted.
+    /// The child of that name went away. It is deleted when this is emitted, or being deleted when it was deleted from
+    /// outside.
     void removed(const QString& name);
     /// clear() emptied the node.
     void cleared(QObject* sender);
-    /// Something was written, inserted, removed or cleared at `node`, which is this node or lies below it.
+    /// Something was written, inserted, removed or cleared at `node`, which is this node or lies below it. Calls
+    /// without `notify` emit neither this nor any other signal.
     void touched(brisk::ModuleObject* node, QObject* sender);
 
 protected:
@@ -143,10 +146,14 @@ private:
         HearsRemoved = 4,
         HearsCleared = 8,
         HearsTouched = 16,
-        IsList = 32
+        IsList = 32,
+        ListenersLeft = 64
     };
 
+    struct Heard;
+    static const std::array<Heard, 5>& hearable();
     void setFlag(Flag flag, bool on);
+    bool hears(Flag flag);
     void updateListeners();
 
     ChildList& childList();
@@ -175,8 +182,8 @@ private:
     QString m_name;
     QVariant m_value;
     ModuleObject* m_parent = nullptr;
-    std::unique_ptr<ChildList>
-        m_children; // null for a leaf: most nodes are leaves, and there are hundreds of thousands
+    // Null for a leaf: most nodes are leaves, and there are hundreds of thousands.
+    std::unique_ptr<ChildList> m_children;
     quint8 m_flags = 0;
 };
 

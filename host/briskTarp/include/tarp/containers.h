@@ -54,7 +54,8 @@ public:
     /// Appends `item` under `key`; `stretch` lets it take the free room. False for null or a key that is taken.
     bool addItem(QObject* sender, const QString& key, QWidget* item, int stretch = 0);
     /// Inserts `item` before the item named `beforeKey`; the bar becomes its parent. False, and nothing changes, for
-    /// null, for a `key` that is taken and for a `beforeKey` that is not there.
+    /// null, for an item that stands in the bar already, for a `key` that is taken and for a `beforeKey` that is not
+    /// there.
     bool addBeforeItem(QObject* sender, const QString& key, const QString& beforeKey, QWidget* item);
     /// The keys from left to right.
     QStringList keys() const;
