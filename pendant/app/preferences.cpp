@@ -1,0 +1,32 @@
+#include "preferences.h"
+
+#include <QSettings>
+
+namespace pendant {
+
+namespace {
+
+QString read(const QString& key, const QString& fallback) {
+    return QSettings(QStringLiteral("settings.ini"), QSettings::IniFormat).value(key, fallback).toString();
+}
+
+void write(const QString& key, const QString& value) {
+    QSettings(QStringLiteral("settings.ini"), QSettings::IniFormat).setValue(key, value);
+}
+
+} // namespace
+
+QString Preferences::theme() {
+    return read(QStringLiteral("pendant.theme"), QStringLiteral("light"));
+}
+void Preferences::setTheme(const QString& name) {
+    write(QStringLiteral("pendant.theme"), name);
+}
+QString Preferences::language() {
+    return read(QStringLiteral("pendant.language"), QStringLiteral("en"));
+}
+void Preferences::setLanguage(const QString& code) {
+    write(QStringLiteral("pendant.language"), code);
+}
+
+} // namespace pendant

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+
+namespace pendant {
+
+/// What the operator chose, kept in the settings file of the working folder.
+class Preferences {
+public:
+    static QString theme();
+    static void setTheme(const QString& name);
+    static QString language();
+    static void setLanguage(const QString& code);
+};
+
+} // namespace pendant

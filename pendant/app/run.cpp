@@ -1,0 +1,90 @@
+#include "run.h"
+
+#include "application.h"
+#include "frame/keycolumn.h"
+#include "frame/pendantwindow.h"
+#include "helm/messagelist.h"
+#include "pages/ownpages.h"
+#include "pages/settingspage.h"
+#include "pages/startpage.h"
+#include "plugins/callguard.h"
+#include "plugins/pluginloader.h"
+#include "plugins/pluginsession.h"
+#include "preferences.h"
+#include "tour/tour.h"
+
+#include <QDir>
+
+#include <cstdio>
+
+using helm::standin::MessageLevel;
+using helm::standin::MessageList;
+
+namespace pendant {
+
+namespace {
+
+Theme themeFor(const Options& options) {
+    return Theme::named(options.theme.isEmpty() ? Preferences::theme() : options.theme);
+}
+
+void sayWhere() {
+    const QString text = Application::tr("Working folder: %1").arg(QDir::currentPath());
+    MessageList::instance()->add(MessageLevel::Information, QStringLiteral("pendant"), text);
+    std::printf("%s\n", qPrintable(text));
+    std::fflush(stdout);
+}
+
+void connectSettings(Application& application, PendantWindow& window, SettingsPage* settings) {
+    settings->setLanguage(application.language());
+    QObject::connect(settings, &SettingsPage::themeChosen, &window, [&](const QString& name) {
+        application.applyTheme(Theme::named(name));
+        window.setTheme(Theme::named(name));
+        application.redressWindows();
+        Preferences::setTheme(name);
+    });
+    QObject::connect(settings, &SettingsPage::languageChosen, &application, [&](const QString& code) {
+        application.setLanguage(code);
+        Preferences::setLanguage(code);
+    });
+}
+
+} // namespace
+
+int run(Application& application, const Options& options) {
+    const Theme theme = themeFor(options);
+    application.setLanguage(options.language.isEmpty() ? Preferences::language() : options.language);
+    application.applyTheme(theme);
+    sayWhere();
+
+    PendantWindow window(theme);
+    window.resize(options.size);
+    OwnPages pages(&window);
+    connectSettings(application, window, pages.settings());
+
+    CallGuard guard;
+    PluginLoader loader;
+    for (const QString& folder : options.pluginFolders)
+        loader.loadFolder(folder);
+    PluginSession session(&guard, &loader);
+    QObject::connect(&guard, &CallGuard::recorded, &application,
+                     [&](const CallRecord& record) { application.restoreLook(record.plugin); });
+    window.show();
+    session.start(window.center());
+    pages.start()->follow(&session, &loader, options.pluginFolders);
+
+    int status = 0;
+    if (options.tourFolder.isEmpty()) {
+        status = application.exec();
+    } else {
+        Tour tour({&window, window.center(), window.sideBar(),
+                   [&](const QString& page) { return window.keys()->showPage(page); }, &loader, &session, &guard},
+                  options.tourFolder);
+        status = tour.run();
+    }
+    session.stop();
+    pages.start()->follow(nullptr, nullptr, {});
+    return status;
+}
+
+} // namespace pendant

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "brisk/moduleobject.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QString>
+
+#include <functional>
+
+namespace pendant {
+
+/// Follows the value of one node of the data tree, also when the node is removed and made again.
+class LiveValue : public QObject {
+    Q_OBJECT
+
+public:
+    /// Calls `show` with the node's text ("" when it has none) now and at each change.
+    LiveValue(const QString& key, std::function<void(const QString&)> show, QObject* parent);
+
+private:
+    void follow();
+    void read();
+
+    QString m_key;
+    std::function<void(const QString&)> m_show;
+    QPointer<brisk::ModuleObject> m_node;
+};
+
+} // namespace pendant

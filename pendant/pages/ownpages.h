@@ -1,0 +1,39 @@
+#pragma once
+
+#include "brisk/moduleobject.h"
+
+#include <QList>
+#include <QObject>
+#include <QPointer>
+
+namespace pendant {
+
+class Page;
+class PendantWindow;
+class SettingsPage;
+class StartPage;
+
+/// The pendant's own pages in the centre, with their navigation entries, and the page group of the plugins.
+class OwnPages : public QObject {
+    Q_OBJECT
+
+public:
+    explicit OwnPages(PendantWindow* window);
+
+    StartPage* start() const { return m_start; }
+    SettingsPage* settings() const { return m_settings; }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void add(const QString& key, const QString& icon, Page* page);
+    void retranslate();
+
+    PendantWindow* m_window;
+    StartPage* m_start;
+    SettingsPage* m_settings;
+    QList<QPointer<brisk::ModuleObject>> m_entries; ///< start, messages, settings
+};
+
+} // namespace pendant

@@ -1,0 +1,652 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de">
+<context>
+    <name>pendant::Application</name>
+    <message>
+        <source>an object that is gone</source>
+        <translation>ein Objekt, das es nicht mehr gibt</translation>
+    </message>
+    <message>
+        <source>An event handler of %1 threw: %2</source>
+        <translation>Eine Ereignisbehandlung von %1 warf eine Ausnahme: %2</translation>
+    </message>
+    <message>
+        <source>The look of the whole pendant was changed by %1 of the application; that was taken back. Style your own widgets instead.</source>
+        <translation>%1 der Anwendung hat das Aussehen des ganzen Bediengeräts geändert; das wurde zurückgenommen. Gestalten Sie stattdessen die eigenen Widgets.</translation>
+    </message>
+    <message>
+        <source>a plugin</source>
+        <translation>ein Plugin</translation>
+    </message>
+    <message>
+        <source>Working folder: %1</source>
+        <translation>Arbeitsordner: %1</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::CallGuard</name>
+    <message>
+        <source>%1 threw: %2</source>
+        <translation>%1 warf eine Ausnahme: %2</translation>
+    </message>
+    <message>
+        <source>something unknown</source>
+        <translation>etwas Unbekanntes</translation>
+    </message>
+    <message>
+        <source>a value of type %1, which is no std::exception</source>
+        <translation>ein Wert des Typs %1, der keine std::exception ist</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::ElfHeader</name>
+    <message>
+        <source>64-bit Arm (aarch64)</source>
+        <translation>64-Bit-Arm (aarch64)</translation>
+    </message>
+    <message>
+        <source>32-bit x86</source>
+        <translation>32-Bit-x86</translation>
+    </message>
+    <message>
+        <source>32-bit Arm</source>
+        <translation>32-Bit-Arm</translation>
+    </message>
+    <message>
+        <source>a machine of type %1</source>
+        <translation>eine Maschine vom Typ %1</translation>
+    </message>
+    <message>
+        <source>is empty</source>
+        <translation>ist leer</translation>
+    </message>
+    <message>
+        <source>is not an ELF file</source>
+        <translation>ist keine ELF-Datei</translation>
+    </message>
+    <message>
+        <source>is cut off in its ELF header</source>
+        <translation>ist im ELF-Kopf abgeschnitten</translation>
+    </message>
+    <message>
+        <source>is built for %1; this pendant runs on %2</source>
+        <translation>ist für %1 gebaut; dieses Bediengerät läuft auf %2</translation>
+    </message>
+    <message>
+        <source>is a 32-bit file; this pendant needs 64-bit ones</source>
+        <translation>ist eine 32-Bit-Datei; dieses Bediengerät braucht 64-Bit-Dateien</translation>
+    </message>
+    <message>
+        <source>is a big-endian file; this pendant needs little-endian ones</source>
+        <translation>ist eine Big-Endian-Datei; dieses Bediengerät braucht Little-Endian-Dateien</translation>
+    </message>
+    <message>
+        <source>is not a shared object</source>
+        <translation>ist keine dynamische Bibliothek</translation>
+    </message>
+    <message>
+        <source>cannot be read: %1</source>
+        <translation>kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>is cut off: it has %1 bytes of at least %2</source>
+        <translation>ist abgeschnitten: sie hat %1 von mindestens %2 Bytes</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::HardKey</name>
+    <message>
+        <source>The key “%1” threw when it was pressed: %2</source>
+        <translation>Die Taste „%1“ warf beim Drücken eine Ausnahme: %2</translation>
+    </message>
+    <message>
+        <source>The key “%1” threw when it was released: %2</source>
+        <translation>Die Taste „%1“ warf beim Loslassen eine Ausnahme: %2</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::KeyColumn</name>
+    <message>
+        <source>No keys in use</source>
+        <translation>Keine Tasten belegt</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::MessageLine</name>
+    <message>
+        <source>Messages: %1</source>
+        <translation>Meldungen: %1</translation>
+    </message>
+    <message>
+        <source>No messages</source>
+        <translation>Keine Meldungen</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::Messages</name>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::MessagesPage</name>
+    <message>
+        <source>Messages</source>
+        <translation>Meldungen</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Warnings and errors</source>
+        <translation>Warnungen und Fehler</translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>Nothing of this kind</source>
+        <translation>Nichts dieser Art</translation>
+    </message>
+    <message>
+        <source>“All” shows the messages of the other levels.</source>
+        <translation>„Alle“ zeigt die Meldungen der anderen Stufen.</translation>
+    </message>
+    <message>
+        <source>No messages</source>
+        <translation>Keine Meldungen</translation>
+    </message>
+    <message>
+        <source>What the pendant and its plugins have to tell appears here, the newest first.</source>
+        <translation>Hier erscheint, was das Bediengerät und seine Plugins melden, das Neueste zuerst.</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::Navigation</name>
+    <message>
+        <source>No pages yet. “Start” shows how to add a plugin.</source>
+        <translation>Noch keine Seiten. „Start“ zeigt, wie ein Plugin dazukommt.</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::OptionReader</name>
+    <message>
+        <source>A robot teach pendant with its plugins, without a robot.</source>
+        <translation>Das Bediengerät eines Roboters mit seinen Plugins, ohne Roboter.</translation>
+    </message>
+    <message>
+        <source>Load the plugins (*.so) of this folder. May be given several times.</source>
+        <translation>Die Plugins (*.so) dieses Ordners laden. Darf mehrmals angegeben werden.</translation>
+    </message>
+    <message>
+        <source>folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Walk all pages, leave pictures and a transcript in this folder, and end.</source>
+        <translation>Alle Seiten abgehen, Bilder und ein Protokoll in diesem Ordner ablegen und enden.</translation>
+    </message>
+    <message>
+        <source>The folder in which the pendant keeps logs, settings and projects.</source>
+        <translation>Der Ordner, in dem das Bediengerät Protokolle, Einstellungen und Projekte ablegt.</translation>
+    </message>
+    <message>
+        <source>Size of the window in pixels, 800x480 or more.</source>
+        <translation>Größe des Fensters in Pixeln, mindestens 800x480.</translation>
+    </message>
+    <message>
+        <source>Language: %1.</source>
+        <translation>Sprache: %1.</translation>
+    </message>
+    <message>
+        <source>code</source>
+        <translation>Kürzel</translation>
+    </message>
+    <message>
+        <source>Appearance: %1.</source>
+        <translation>Darstellung: %1.</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>“%1” is no option. A folder of plugins is named with --plugins.</source>
+        <translation>„%1“ ist keine Option. Ein Ordner mit Plugins wird mit --plugins angegeben.</translation>
+    </message>
+    <message>
+        <source>--size takes width and height in pixels, 800x480 or more, such as 1280x800.</source>
+        <translation>--size nimmt Breite und Höhe in Pixeln, mindestens 800x480, zum Beispiel 1280x800.</translation>
+    </message>
+    <message>
+        <source>--language takes one of: %1.</source>
+        <translation>--language nimmt eines von: %1.</translation>
+    </message>
+    <message>
+        <source>--theme takes one of: %1.</source>
+        <translation>--theme nimmt eines von: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::OwnPages</name>
+    <message>
+        <source>Pendant</source>
+        <translation>Bediengerät</translation>
+    </message>
+    <message>
+        <source>Plugins</source>
+        <translation>Plugins</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>Meldungen</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::PendantWindow</name>
+    <message>
+        <source>There is no page “%1” to show.</source>
+        <translation>Es gibt keine Seite „%1“, die gezeigt werden könnte.</translation>
+    </message>
+    <message>
+        <source>The entry “%1” of the navigation names no page.</source>
+        <translation>Der Eintrag „%1“ der Navigation nennt keine Seite.</translation>
+    </message>
+    <message>
+        <source>The entry “%1” of the navigation leads to the page “%2”, which does not exist.</source>
+        <translation>Der Eintrag „%1“ der Navigation führt zur Seite „%2“, die es nicht gibt.</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::PluginLoader</name>
+    <message>
+        <source>threw while it was loaded: %1</source>
+        <translation>warf beim Laden eine Ausnahme: %1</translation>
+    </message>
+    <message>
+        <source>cannot be loaded: %1</source>
+        <translation>kann nicht geladen werden: %1</translation>
+    </message>
+    <message>
+        <source>does not exist.</source>
+        <translation>gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>is not a folder.</source>
+        <translation>ist kein Ordner.</translation>
+    </message>
+    <message>
+        <source>holds no plugin file (*.so).</source>
+        <translation>enthält keine Plugin-Datei (*.so).</translation>
+    </message>
+    <message>
+        <source>points to a file that does not exist.</source>
+        <translation>verweist auf eine Datei, die es nicht gibt.</translation>
+    </message>
+    <message>
+        <source>registers no plugin, or only names that other plugins hold.</source>
+        <translation>meldet kein Plugin an oder nur Namen, die andere Plugins schon haben.</translation>
+    </message>
+    <message>
+        <source>cannot be read: %1.</source>
+        <translation>kann nicht gelesen werden: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::PluginSession</name>
+    <message>
+        <source>Its constructor threw: %1</source>
+        <translation>Sein Konstruktor warf eine Ausnahme: %1</translation>
+    </message>
+    <message>
+        <source>Nothing was made for it.</source>
+        <translation>Es wurde nichts dafür angelegt.</translation>
+    </message>
+    <message>
+        <source>It was deleted while the pendant was running.</source>
+        <translation>Es wurde gelöscht, während das Bediengerät lief.</translation>
+    </message>
+    <message>
+        <source>%1 threw: %2</source>
+        <translation>%1 warf eine Ausnahme: %2</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::SettingsPage</name>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>Darstellung</translation>
+    </message>
+    <message>
+        <source>Dark suits a dim hall, light a bright one.</source>
+        <translation>Dunkel passt zu einer dunklen Halle, hell zu einer hellen.</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>Texts of plugins stay in the language of the plugin.</source>
+        <translation>Texte von Plugins bleiben in der Sprache des Plugins.</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::SideBarButton</name>
+    <message>
+        <source>Side bar</source>
+        <translation>Seitenleiste</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::SideBarHeader</name>
+    <message>
+        <source>Close the side bar</source>
+        <translation>Seitenleiste schließen</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::StartPage</name>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>No plugins loaded</source>
+        <translation>Keine Plugins geladen</translation>
+    </message>
+    <message>
+        <source>The plugins of this pendant are listed here. Copy a plugin (a file *.so) into one of the folders below and start the pendant again, or name its folder with --plugins.</source>
+        <translation>Hier stehen die Plugins dieses Bediengeräts. Kopieren Sie ein Plugin (eine Datei *.so) in einen der Ordner unten und starten Sie das Bediengerät neu, oder geben Sie seinen Ordner mit --plugins an.</translation>
+    </message>
+    <message>
+        <source>Working folder: %1</source>
+        <translation>Arbeitsordner: %1</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>Läuft</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Beendet</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Not loaded</source>
+        <translation>Nicht geladen</translation>
+    </message>
+    <message>
+        <source>Running: %1</source>
+        <translation>Laufen: %1</translation>
+    </message>
+    <message>
+        <source>Failed: %1</source>
+        <translation>Fehlgeschlagen: %1</translation>
+    </message>
+    <message>
+        <source>The plugins of this pendant are listed here. Start the pendant with --plugins and the folder that holds them (files *.so).</source>
+        <translation>Hier stehen die Plugins dieses Bediengeräts. Starten Sie es mit --plugins und dem Ordner, in dem sie liegen (Dateien *.so).</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::StatusItems</name>
+    <message>
+        <source>Unknown</source>
+        <translation>Unbekannt</translation>
+    </message>
+    <message>
+        <source>Bus</source>
+        <translation>Bus</translation>
+    </message>
+    <message>
+        <source>Controller</source>
+        <translation>Steuerung</translation>
+    </message>
+    <message>
+        <source>Drives</source>
+        <translation>Antriebe</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Betriebsart</translation>
+    </message>
+    <message>
+        <source>Tool</source>
+        <translation>Werkzeug</translation>
+    </message>
+    <message>
+        <source>Work object</source>
+        <translation>Werkobjekt</translation>
+    </message>
+    <message>
+        <source>Online</source>
+        <translation>Verbunden</translation>
+    </message>
+    <message>
+        <source>Offline</source>
+        <translation>Getrennt</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <comment>drive power</comment>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <comment>drive power</comment>
+        <translation>Aus</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::Tour</name>
+    <message>
+        <source>The pendant has started.</source>
+        <translation>Das Bediengerät ist gestartet.</translation>
+    </message>
+    <message>
+        <source>The plugins have been stopped.</source>
+        <translation>Die Plugins sind beendet.</translation>
+    </message>
+    <message>
+        <source>The entry "%1" of the navigation has no page (%2).</source>
+        <translation>Der Eintrag „%1“ der Navigation hat keine Seite (%2).</translation>
+    </message>
+    <message>
+        <source>Page "%1".</source>
+        <translation>Seite „%1“.</translation>
+    </message>
+    <message>
+        <source>Page "%1" of %2.</source>
+        <translation>Seite „%1“ von %2.</translation>
+    </message>
+    <message>
+        <source>Pressed "%1" on the page of %2.</source>
+        <translation>„%1“ auf der Seite von %2 gedrückt.</translation>
+    </message>
+    <message>
+        <source>%1: what "%2" opened did not go away when it was pressed again.</source>
+        <translation>%1: Was „%2“ geöffnet hat, ist beim zweiten Drücken nicht verschwunden.</translation>
+    </message>
+    <message>
+        <source>Side-bar page "%1" of %2.</source>
+        <translation>Seite „%1“ von %2 in der Seitenleiste.</translation>
+    </message>
+    <message>
+        <source>The physical keys "%1" of %2 are disabled now.</source>
+        <translation>Die Tasten „%1“ von %2 sind jetzt gesperrt.</translation>
+    </message>
+    <message>
+        <source>Physical keys "%1" of %2.</source>
+        <translation>Tasten „%1“ von %2.</translation>
+    </message>
+    <message>
+        <source>Cannot write %1.</source>
+        <translation>%1 kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::Transcript</name>
+    <message>
+        <source>running</source>
+        <translation>läuft</translation>
+    </message>
+    <message>
+        <source>switched off</source>
+        <translation>abgeschaltet</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>beendet</translation>
+    </message>
+    <message>
+        <source>information</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Plugins</source>
+        <translation>Plugins</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Problem</translation>
+    </message>
+    <message>
+        <source>Plugin</source>
+        <translation>Plugin</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Grund</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Aufruf</translation>
+    </message>
+    <message>
+        <source>Thrown</source>
+        <translation>Ausnahme</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Stufe</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Von</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Meldung</translation>
+    </message>
+    <message>
+        <source>None.</source>
+        <translation>Keine.</translation>
+    </message>
+    <message>
+        <source>Tour of the pendant</source>
+        <translation>Rundgang durch das Bediengerät</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>Nothing failed.</source>
+        <translation>Nichts ist fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>Steps</source>
+        <translation>Schritte</translation>
+    </message>
+    <message>
+        <source>Plugin files</source>
+        <translation>Plugin-Dateien</translation>
+    </message>
+    <message>
+        <source>Calls into plugins</source>
+        <translation>Aufrufe in Plugins</translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>Meldungen</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::WorkFolder</name>
+    <message>
+        <source>The folder %1 cannot be made. Name another one with --work.</source>
+        <translation>Der Ordner %1 kann nicht angelegt werden. Geben Sie mit --work einen anderen an.</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be entered. Name another one with --work.</source>
+        <translation>In den Ordner %1 kann nicht gewechselt werden. Geben Sie mit --work einen anderen an.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,652 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN">
+<context>
+    <name>pendant::Application</name>
+    <message>
+        <source>an object that is gone</source>
+        <translation>一个已不存在的对象</translation>
+    </message>
+    <message>
+        <source>An event handler of %1 threw: %2</source>
+        <translation>%1 的事件处理抛出异常：%2</translation>
+    </message>
+    <message>
+        <source>The look of the whole pendant was changed by %1 of the application; that was taken back. Style your own widgets instead.</source>
+        <translation>应用程序的 %1 改变了整个示教器的外观，现已恢复。请只设置您自己控件的样式。</translation>
+    </message>
+    <message>
+        <source>a plugin</source>
+        <translation>某个插件</translation>
+    </message>
+    <message>
+        <source>Working folder: %1</source>
+        <translation>工作文件夹：%1</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::CallGuard</name>
+    <message>
+        <source>%1 threw: %2</source>
+        <translation>%1 抛出异常：%2</translation>
+    </message>
+    <message>
+        <source>something unknown</source>
+        <translation>未知内容</translation>
+    </message>
+    <message>
+        <source>a value of type %1, which is no std::exception</source>
+        <translation>类型为 %1 的值，它不是 std::exception</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::ElfHeader</name>
+    <message>
+        <source>64-bit Arm (aarch64)</source>
+        <translation>64 位 Arm（aarch64）</translation>
+    </message>
+    <message>
+        <source>32-bit x86</source>
+        <translation>32 位 x86</translation>
+    </message>
+    <message>
+        <source>32-bit Arm</source>
+        <translation>32 位 Arm</translation>
+    </message>
+    <message>
+        <source>a machine of type %1</source>
+        <translation>类型为 %1 的机器</translation>
+    </message>
+    <message>
+        <source>is empty</source>
+        <translation>是空文件</translation>
+    </message>
+    <message>
+        <source>is not an ELF file</source>
+        <translation>不是 ELF 文件</translation>
+    </message>
+    <message>
+        <source>is cut off in its ELF header</source>
+        <translation>的 ELF 头不完整</translation>
+    </message>
+    <message>
+        <source>is built for %1; this pendant runs on %2</source>
+        <translation>是为 %1 构建的；本示教器运行在 %2 上</translation>
+    </message>
+    <message>
+        <source>is a 32-bit file; this pendant needs 64-bit ones</source>
+        <translation>是 32 位文件；本示教器需要 64 位文件</translation>
+    </message>
+    <message>
+        <source>is a big-endian file; this pendant needs little-endian ones</source>
+        <translation>是大端文件；本示教器需要小端文件</translation>
+    </message>
+    <message>
+        <source>is not a shared object</source>
+        <translation>不是共享库</translation>
+    </message>
+    <message>
+        <source>cannot be read: %1</source>
+        <translation>无法读取：%1</translation>
+    </message>
+    <message>
+        <source>is cut off: it has %1 bytes of at least %2</source>
+        <translation>不完整：只有 %1 字节，至少应有 %2 字节</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::HardKey</name>
+    <message>
+        <source>The key “%1” threw when it was pressed: %2</source>
+        <translation>按下按键“%1”时抛出异常：%2</translation>
+    </message>
+    <message>
+        <source>The key “%1” threw when it was released: %2</source>
+        <translation>松开按键“%1”时抛出异常：%2</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::KeyColumn</name>
+    <message>
+        <source>No keys in use</source>
+        <translation>按键未使用</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::MessageLine</name>
+    <message>
+        <source>Messages: %1</source>
+        <translation>消息：%1</translation>
+    </message>
+    <message>
+        <source>No messages</source>
+        <translation>没有消息</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::Messages</name>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>信息</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::MessagesPage</name>
+    <message>
+        <source>Messages</source>
+        <translation>消息</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>Warnings and errors</source>
+        <translation>警告和错误</translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>清空</translation>
+    </message>
+    <message>
+        <source>Nothing of this kind</source>
+        <translation>没有此类消息</translation>
+    </message>
+    <message>
+        <source>“All” shows the messages of the other levels.</source>
+        <translation>“全部”显示其他级别的消息。</translation>
+    </message>
+    <message>
+        <source>No messages</source>
+        <translation>没有消息</translation>
+    </message>
+    <message>
+        <source>What the pendant and its plugins have to tell appears here, the newest first.</source>
+        <translation>示教器及其插件的消息显示在这里，最新的排在最前。</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::Navigation</name>
+    <message>
+        <source>No pages yet. “Start” shows how to add a plugin.</source>
+        <translation>尚无页面。“开始”页说明如何添加插件。</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::OptionReader</name>
+    <message>
+        <source>A robot teach pendant with its plugins, without a robot.</source>
+        <translation>无需机器人即可运行的示教器及其插件。</translation>
+    </message>
+    <message>
+        <source>Load the plugins (*.so) of this folder. May be given several times.</source>
+        <translation>加载此文件夹中的插件（*.so）。可多次指定。</translation>
+    </message>
+    <message>
+        <source>folder</source>
+        <translation>文件夹</translation>
+    </message>
+    <message>
+        <source>Walk all pages, leave pictures and a transcript in this folder, and end.</source>
+        <translation>遍历所有页面，将图片和记录存入此文件夹，然后结束。</translation>
+    </message>
+    <message>
+        <source>The folder in which the pendant keeps logs, settings and projects.</source>
+        <translation>示教器保存日志、设置和工程的文件夹。</translation>
+    </message>
+    <message>
+        <source>Size of the window in pixels, 800x480 or more.</source>
+        <translation>窗口大小（像素），至少 800x480。</translation>
+    </message>
+    <message>
+        <source>Language: %1.</source>
+        <translation>语言：%1。</translation>
+    </message>
+    <message>
+        <source>code</source>
+        <translation>代码</translation>
+    </message>
+    <message>
+        <source>Appearance: %1.</source>
+        <translation>外观：%1。</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>“%1” is no option. A folder of plugins is named with --plugins.</source>
+        <translation>“%1”不是选项。插件文件夹用 --plugins 指定。</translation>
+    </message>
+    <message>
+        <source>--size takes width and height in pixels, 800x480 or more, such as 1280x800.</source>
+        <translation>--size 接受以像素为单位的宽和高，至少 800x480，例如 1280x800。</translation>
+    </message>
+    <message>
+        <source>--language takes one of: %1.</source>
+        <translation>--language 可取：%1。</translation>
+    </message>
+    <message>
+        <source>--theme takes one of: %1.</source>
+        <translation>--theme 可取：%1。</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::OwnPages</name>
+    <message>
+        <source>Pendant</source>
+        <translation>示教器</translation>
+    </message>
+    <message>
+        <source>Plugins</source>
+        <translation>插件</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>开始</translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>消息</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>设置</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::PendantWindow</name>
+    <message>
+        <source>There is no page “%1” to show.</source>
+        <translation>没有可显示的页面“%1”。</translation>
+    </message>
+    <message>
+        <source>The entry “%1” of the navigation names no page.</source>
+        <translation>导航项“%1”没有指定页面。</translation>
+    </message>
+    <message>
+        <source>The entry “%1” of the navigation leads to the page “%2”, which does not exist.</source>
+        <translation>导航项“%1”指向的页面“%2”不存在。</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::PluginLoader</name>
+    <message>
+        <source>threw while it was loaded: %1</source>
+        <translation>加载时抛出异常：%1</translation>
+    </message>
+    <message>
+        <source>cannot be loaded: %1</source>
+        <translation>无法加载：%1</translation>
+    </message>
+    <message>
+        <source>does not exist.</source>
+        <translation>不存在。</translation>
+    </message>
+    <message>
+        <source>is not a folder.</source>
+        <translation>不是文件夹。</translation>
+    </message>
+    <message>
+        <source>holds no plugin file (*.so).</source>
+        <translation>中没有插件文件（*.so）。</translation>
+    </message>
+    <message>
+        <source>points to a file that does not exist.</source>
+        <translation>指向不存在的文件。</translation>
+    </message>
+    <message>
+        <source>registers no plugin, or only names that other plugins hold.</source>
+        <translation>没有注册插件，或注册的名称已被其他插件占用。</translation>
+    </message>
+    <message>
+        <source>cannot be read: %1.</source>
+        <translation>无法读取：%1。</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::PluginSession</name>
+    <message>
+        <source>Its constructor threw: %1</source>
+        <translation>其构造函数抛出异常：%1</translation>
+    </message>
+    <message>
+        <source>Nothing was made for it.</source>
+        <translation>未为其创建任何对象。</translation>
+    </message>
+    <message>
+        <source>It was deleted while the pendant was running.</source>
+        <translation>它在示教器运行期间被删除。</translation>
+    </message>
+    <message>
+        <source>%1 threw: %2</source>
+        <translation>%1 抛出异常：%2</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::SettingsPage</name>
+    <message>
+        <source>Settings</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>外观</translation>
+    </message>
+    <message>
+        <source>Dark suits a dim hall, light a bright one.</source>
+        <translation>深色适合光线较暗的车间，浅色适合明亮的车间。</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>语言</translation>
+    </message>
+    <message>
+        <source>Texts of plugins stay in the language of the plugin.</source>
+        <translation>插件的文字保持插件自身的语言。</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>浅色</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>深色</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::SideBarButton</name>
+    <message>
+        <source>Side bar</source>
+        <translation>侧边栏</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::SideBarHeader</name>
+    <message>
+        <source>Close the side bar</source>
+        <translation>关闭侧边栏</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::StartPage</name>
+    <message>
+        <source>Start</source>
+        <translation>开始</translation>
+    </message>
+    <message>
+        <source>No plugins loaded</source>
+        <translation>未加载插件</translation>
+    </message>
+    <message>
+        <source>The plugins of this pendant are listed here. Copy a plugin (a file *.so) into one of the folders below and start the pendant again, or name its folder with --plugins.</source>
+        <translation>这里列出本示教器的插件。请将插件（*.so 文件）复制到下列文件夹之一并重新启动示教器，或用 --plugins 指定插件所在的文件夹。</translation>
+    </message>
+    <message>
+        <source>Working folder: %1</source>
+        <translation>工作文件夹：%1</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>运行中</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>已停止</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>失败</translation>
+    </message>
+    <message>
+        <source>Not loaded</source>
+        <translation>未加载</translation>
+    </message>
+    <message>
+        <source>Running: %1</source>
+        <translation>运行中：%1</translation>
+    </message>
+    <message>
+        <source>Failed: %1</source>
+        <translation>失败：%1</translation>
+    </message>
+    <message>
+        <source>The plugins of this pendant are listed here. Start the pendant with --plugins and the folder that holds them (files *.so).</source>
+        <translation>这里列出本示教器的插件。请用 --plugins 加上插件（*.so 文件）所在的文件夹来启动示教器。</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::StatusItems</name>
+    <message>
+        <source>Unknown</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>Bus</source>
+        <translation>总线</translation>
+    </message>
+    <message>
+        <source>Controller</source>
+        <translation>控制器</translation>
+    </message>
+    <message>
+        <source>Drives</source>
+        <translation>驱动</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>模式</translation>
+    </message>
+    <message>
+        <source>Tool</source>
+        <translation>工具</translation>
+    </message>
+    <message>
+        <source>Work object</source>
+        <translation>工件坐标系</translation>
+    </message>
+    <message>
+        <source>Online</source>
+        <translation>在线</translation>
+    </message>
+    <message>
+        <source>Offline</source>
+        <translation>离线</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <comment>drive power</comment>
+        <translation>开</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <comment>drive power</comment>
+        <translation>关</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::Tour</name>
+    <message>
+        <source>The pendant has started.</source>
+        <translation>示教器已启动。</translation>
+    </message>
+    <message>
+        <source>The plugins have been stopped.</source>
+        <translation>插件已停止。</translation>
+    </message>
+    <message>
+        <source>The entry "%1" of the navigation has no page (%2).</source>
+        <translation>导航项“%1”没有页面（%2）。</translation>
+    </message>
+    <message>
+        <source>Page "%1".</source>
+        <translation>页面“%1”。</translation>
+    </message>
+    <message>
+        <source>Page "%1" of %2.</source>
+        <translation>%2 的页面“%1”。</translation>
+    </message>
+    <message>
+        <source>Pressed "%1" on the page of %2.</source>
+        <translation>在 %2 的页面上按下“%1”。</translation>
+    </message>
+    <message>
+        <source>%1: what "%2" opened did not go away when it was pressed again.</source>
+        <translation>%1：再次按下后，“%2”打开的内容没有消失。</translation>
+    </message>
+    <message>
+        <source>Side-bar page "%1" of %2.</source>
+        <translation>%2 的侧边栏页面“%1”。</translation>
+    </message>
+    <message>
+        <source>The physical keys "%1" of %2 are disabled now.</source>
+        <translation>%2 的实体按键“%1”现已禁用。</translation>
+    </message>
+    <message>
+        <source>Physical keys "%1" of %2.</source>
+        <translation>%2 的实体按键“%1”。</translation>
+    </message>
+    <message>
+        <source>Cannot write %1.</source>
+        <translation>无法写入 %1。</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::Transcript</name>
+    <message>
+        <source>running</source>
+        <translation>运行中</translation>
+    </message>
+    <message>
+        <source>switched off</source>
+        <translation>已关闭</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>已停止</translation>
+    </message>
+    <message>
+        <source>information</source>
+        <translation>信息</translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Plugins</source>
+        <translation>插件</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>问题</translation>
+    </message>
+    <message>
+        <source>Plugin</source>
+        <translation>插件</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>标题</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>原因</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>调用</translation>
+    </message>
+    <message>
+        <source>Thrown</source>
+        <translation>异常</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>级别</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>来源</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>消息</translation>
+    </message>
+    <message>
+        <source>None.</source>
+        <translation>无。</translation>
+    </message>
+    <message>
+        <source>Tour of the pendant</source>
+        <translation>示教器巡览</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>Nothing failed.</source>
+        <translation>没有失败。</translation>
+    </message>
+    <message>
+        <source>Steps</source>
+        <translation>步骤</translation>
+    </message>
+    <message>
+        <source>Plugin files</source>
+        <translation>插件文件</translation>
+    </message>
+    <message>
+        <source>Calls into plugins</source>
+        <translation>对插件的调用</translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>消息</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::WorkFolder</name>
+    <message>
+        <source>The folder %1 cannot be made. Name another one with --work.</source>
+        <translation>无法创建文件夹 %1。请用 --work 指定其他文件夹。</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be entered. Name another one with --work.</source>
+        <translation>无法进入文件夹 %1。请用 --work 指定其他文件夹。</translation>
+    </message>
+</context>
+</TS>
