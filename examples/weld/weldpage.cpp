@@ -3,7 +3,7 @@
 #include "procedure.h"
 
 #include <QDoubleSpinBox>
-#include <QFormLayout>
+#include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
@@ -16,13 +16,6 @@ namespace {
 // Above this a thin-sheet seam distorts; below the other one it does not fuse.
 const double mostHeatKjPerMm = 0.9;
 const double leastHeatKjPerMm = 0.15;
-
-// Takes the height of its row, so that it stands beside the middle of the box.
-QLabel* makeLabel(const QString& text) {
-    auto* label = new QLabel(text);
-    label->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
-    return label;
-}
 
 QDoubleSpinBox* makeBox(double least, double most, double step, const QString& unit) {
     auto* box = new QDoubleSpinBox;
@@ -62,13 +55,19 @@ WeldPage::WeldPage(ProcedureStore* store)
 QWidget* WeldPage::makeValues() {
     auto* group = new QGroupBox(tr("Procedure in use"));
     m_name->setObjectName(QStringLiteral("procedureName"));
-    auto* form = new QFormLayout(group);
-    form->setVerticalSpacing(8);
-    form->addRow(makeLabel(tr("Name")), m_name);
-    form->addRow(makeLabel(tr("Current")), m_current);
-    form->addRow(makeLabel(tr("Voltage")), m_voltage);
-    form->addRow(makeLabel(tr("Travel speed")), m_travel);
-    form->addRow(makeLabel(tr("Gas flow")), m_gas);
+    auto* grid = new QGridLayout(group);
+    grid->setSpacing(8);
+    grid->setColumnStretch(1, 1);
+    const QList<QPair<QString, QWidget*>> rows{{tr("Name"), m_name},
+                                               {tr("Current"), m_current},
+                                               {tr("Voltage"), m_voltage},
+                                               {tr("Travel speed"), m_travel},
+                                               {tr("Gas flow"), m_gas}};
+    for (int row = 0; row < rows.size(); ++row) {
+        grid->addWidget(new QLabel(rows.at(row).first), row, 0);
+        grid->addWidget(rows.at(row).second, row, 1);
+    }
+    grid->setRowStretch(rows.size(), 1);
 
     connect(m_current, QOverload<int>::of(&QSpinBox::valueChanged), this, &WeldPage::takeValues);
     for (QDoubleSpinBox* box : {m_voltage, m_travel, m_gas})
