@@ -1,0 +1,148 @@
+#include "framefixture.h"
+
+#include "brisk/relay.h"
+#include "frame/statusitem.h"
+
+#include <QLabel>
+
+using pendant::StatusItem;
+
+class TestStatus : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init() {
+        m("helm.r")->clear(nullptr, true, true);
+        m("orca.toolpage")->clear(nullptr, true, true);
+        relay()->mobj()->c("connected", true)->setValue(nullptr, false);
+    }
+    void linksAreDownWithWordAndIcon();
+    void theBusComesUpLive();
+    void aValueIsShownAsTheTreeHasIt_data();
+    void aValueIsShownAsTheTreeHasIt();
+    void aValueThatIsRemovedAndMadeAgainIsFollowedStill();
+    void aPluginsItemStandsBeforeTheStretch();
+    void aPluginsItemLooksAtHome();
+    void aLongValueIsCutAndStandsWholeInTheToolTip();
+
+private:
+    static StatusItem* item(const Frame& frame, const QString& name) {
+        return frame.find<StatusItem>("status:" + name);
+    }
+};
+
+void TestStatus::linksAreDownWithWordAndIcon() {
+    Frame frame;
+    for (const char* name : {"bus", "controller"}) {
+        QCOMPARE(item(frame, name)->text(), QString("Offline"));
+        QCOMPARE(item(frame, name)->state(), StatusItem::State::Error);
+        QVERIFY(!item(frame, name)->findChild<QLabel*>("statusIcon")->property("pixmap").value<QPixmap>().isNull());
+    }
+    QCOMPARE(item(frame, "bus")->accessibleName(), QString("Bus: Offline"));
+}
+
+void TestStatus::theBusComesUpLive() {
+    Frame frame;
+    relay()->mobj()->c("connected")->setValue(nullptr, true);
+    QCOMPARE(item(frame, "bus")->text(), QString("Online"));
+    QCOMPARE(item(frame, "bus")->state(), StatusItem::State::Good);
+    relay()->mobj()->c("connected")->setValue(nullptr, false);
+    QCOMPARE(item(frame, "bus")->text(), QString("Offline"));
+}
+
+void TestStatus::aValueIsShownAsTheTreeHasIt_data() {
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("after");
+    QTest::newRow("drives on") << "power"
+                               << "helm.r.power"
+                               << "on"
+                               << "Unknown"
+                               << "On";
+    QTest::newRow("drives off") << "power"
+                                << "helm.r.power"
+                                << "off"
+                                << "Unknown"
+                                << "Off";
+    QTest::newRow("drives else") << "power"
+                                 << "helm.r.power"
+                                 << "ON"
+                                 << "Unknown"
+                                 << "ON";
+    QTest::newRow("mode") << "mode"
+                          << "helm.r.mode"
+                          << "manual"
+                          << "Unknown"
+                          << "manual";
+    QTest::newRow("tool") << "tool"
+                          << "orca.toolpage.tool"
+                          << "g_tool_a"
+                          << "tool0"
+                          << "g_tool_a";
+    QTest::newRow("work object") << "workobject"
+                                 << "orca.toolpage.wobj"
+                                 << "g_wobj_a"
+                                 << "wobj0"
+                                 << "g_wobj_a";
+}
+
+void TestStatus::aValueIsShownAsTheTreeHasIt() {
+    QFETCH(QString, name);
+    QFETCH(QString, key);
+    QFETCH(QString, value);
+    Frame frame;
+    QTEST(item(frame, name)->text(), "before");
+    m()->root()->set(nullptr, key, value);
+    QTEST(item(frame, name)->text(), "after");
+    m()->root()->set(nullptr, key, QVariant());
+    QTEST(item(frame, name)->text(), "before");
+}
+
+void TestStatus::aValueThatIsRemovedAndMadeAgainIsFollowedStill() {
+    Frame frame;
+    m()->root()->set(nullptr, "orca.toolpage.tool", "g_tool_a");
+    m("orca.toolpage")->clear(nullptr, true, true);
+    QTRY_COMPARE(item(frame, "tool")->text(), QString("tool0"));
+    m()->root()->set(nullptr, "orca.toolpage.tool", "g_tool_b");
+    QCOMPARE(item(frame, "tool")->text(), QString("g_tool_b"));
+}
+
+void TestStatus::aPluginsItemStandsBeforeTheStretch() {
+    Frame frame;
+    const QString stretch = "orca.body.statuspage.wgtStrech2";
+    auto* label = new QLabel("Arc 0 A");
+    QVERIFY(frame.window->statusBar()->addBeforeItem(nullptr, "kite.weld.1", stretch, label));
+    const QStringList keys = frame.window->statusBar()->keys();
+    QCOMPARE(keys.indexOf("kite.weld.1") + 1, keys.indexOf(stretch));
+    Frame::settle();
+    QVERIFY(label->isVisible());
+    QVERIFY(label->x() > item(frame, "workobject")->geometry().right());
+    QVERIFY(label->geometry().right() < frame.find("status:clock")->x());
+}
+
+void TestStatus::aPluginsItemLooksAtHome() {
+    Frame frame;
+    auto* label = new QLabel("Arc 0 A");
+    frame.window->statusBar()->addBeforeItem(nullptr, "kite.weld.1", "orca.body.statuspage.wgtStrech2", label);
+    label->ensurePolished();
+    QCOMPARE(label->palette().color(QPalette::WindowText), pendant::Theme::light().color("text"));
+    frame.window->setTheme(pendant::Theme::dark());
+    label->ensurePolished();
+    QCOMPARE(label->palette().color(QPalette::WindowText), pendant::Theme::dark().color("text"));
+}
+
+void TestStatus::aLongValueIsCutAndStandsWholeInTheToolTip() {
+    Frame frame;
+    const QString tool = "g_tool_torch_with_a_very_long_name_that_cannot_fit";
+    m()->root()->set(nullptr, "orca.toolpage.tool", tool);
+    Frame::settle();
+    QCOMPARE(item(frame, "tool")->text(), tool);
+    QCOMPARE(frame.window->width(), 1280);
+    frame.window->grab();
+    QCOMPARE(item(frame, "tool")->findChild<QLabel*>("statusValue")->toolTip(), tool);
+}
+
+PENDANT_TEST_MAIN(TestStatus)
+#include "tst_frame_status.moc"
