@@ -14,9 +14,10 @@ set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
 set(KITE_PLUGIN_DIR "${CMAKE_BINARY_DIR}/plugins")
 
+# Paths below the project count as relative, so that a second checkout finds what the first one compiled.
 find_program(KITE_CCACHE ccache)
 if(KITE_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-    set(CMAKE_CXX_COMPILER_LAUNCHER "${KITE_CCACHE}")
+    set(CMAKE_CXX_COMPILER_LAUNCHER env "CCACHE_BASEDIR=${CMAKE_SOURCE_DIR}" CCACHE_NOHASHDIR=1 "${KITE_CCACHE}")
 endif()
 
 # Warnings as errors, for our own targets only.

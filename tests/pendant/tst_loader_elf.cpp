@@ -105,6 +105,24 @@ private slots:
         QCOMPARE(pendant::sharedObjectProblem(path), QString());
     }
 
+    // A file may be stripped of its table of sections.
+    void theSegmentsTellAlsoWithoutSections() {
+        QFile plugin(PLUGIN_fixture_pair);
+        QVERIFY(plugin.open(QIODevice::ReadOnly));
+        QByteArray bytes = plugin.readAll();
+        bytes.replace(40, 8, QByteArray(8, '\0')); // the table's place
+        bytes.replace(60, 2, QByteArray(2, '\0')); // the number of entries
+        const QTemporaryDir folder;
+        QFile copy(folder.filePath("libstripped.so"));
+        QVERIFY(copy.open(QIODevice::WriteOnly));
+        copy.write(bytes);
+        copy.close();
+        QCOMPARE(pendant::sharedObjectProblem(copy.fileName()), QString());
+        QVERIFY(copy.resize(5000));
+        const QString problem = pendant::sharedObjectProblem(copy.fileName());
+        QVERIFY2(problem.startsWith("is cut off: it has 5000 bytes of at least "), qPrintable(problem));
+    }
+
     void aTableOfSegmentsBeyondTheEndIsTold() {
         QByteArray bytes = head(own).leftJustified(64, '\0');
         bytes[32] = '\x7f'; // the table's place

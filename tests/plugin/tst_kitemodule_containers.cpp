@@ -85,6 +85,7 @@ private slots:
         QCOMPARE(m_frame->sideBar()->keys(), QStringList("kite.weld.weld"));
         QLabel same;
         QVERIFY(!m_module->createRightExpandWidgte(&same, "weld"));
+        QVERIFY(!m_module->createRightExpandWidgte(&same, ""));
     }
 
     void anIdInUseIsRefusedAndTheWidgetStaysTheCallers() {
@@ -114,7 +115,7 @@ private slots:
     void switchingToAnEmptyIdShowsThePageOfThePluginsName() {
         m_module->createRightExpandWidgte(new QLabel, "wire");
         m_module->createRightExpandWidgte(new QLabel, QString());
-        m_module->switchRightExpandWidgte(QString());
+        m_module->switchRightExpandWidgte("");
         QCOMPARE(m_frame->sideBar()->current(), QString("kite.weld.weld"));
         QVERIFY(m_frame->sideBar()->isVisible());
     }

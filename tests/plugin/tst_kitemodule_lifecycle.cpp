@@ -284,10 +284,12 @@ private slots:
         m_module->setup();
         m_module->init();
         QStringList order;
+        const QPointer<QWidget> widget(page()->wgt());
         connect(m_frame->center(), &tarp::CenterWidget::pageRemoved, this, [&] {
             order << (isRegistered() ? "registered" : "cancelled")
                   << QStringLiteral("%1 entry").arg(m(entriesKey)->cmobjCount())
-                  << (m_log->count("~Kite begin") == 1 ? "begun" : "not begun") << "page removed";
+                  << (m_log->count("~Kite begin") == 1 ? "begun" : "not begun")
+                  << (widget->parentWidget() ? "still inside" : "handed back") << "page removed";
         });
         m_plugin->look = [&](const QString&) {
             order << QStringLiteral("%1 entries").arg(m(entriesKey)->cmobjCount())
@@ -296,8 +298,8 @@ private slots:
         m_plugin->calls = nullptr;
         m_log->forgetLines();
         m_module.reset();
-        QCOMPARE(order, QStringList({"cancelled", "1 entry", "begun", "page removed", "0 entries", "ended",
-                                     "plugin destroyed"}));
+        QCOMPARE(order, QStringList({"cancelled", "1 entry", "begun", "handed back", "page removed", "0 entries",
+                                     "ended", "plugin destroyed"}));
     }
 
     void destroyingWritesItsLinesInOrder() {

@@ -86,6 +86,15 @@ private slots:
         QVERIFY2(time >= before.addMSecs(-1) && time <= QDateTime::currentDateTime(), qPrintable(stamp));
     }
 
+    void millisecondsHaveThreeDigitsAlsoEarlyInTheSecond() {
+        while (QTime::currentTime().msec() >= 50)
+            QTest::qSleep(5);
+        write(service);
+        const QString line = m_log->lines().value(0);
+        QVERIFY2(tagged("\x1b[35m", service, "<kite>Current Model Count : 1\x1b[0m").match(line).hasMatch(),
+                 qPrintable(line));
+    }
+
     void theFileIsTheOneOfTheDay() {
         const QString before = today();
         write(service);
