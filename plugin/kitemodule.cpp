@@ -63,10 +63,12 @@ void Kite::setup() {
 void Kite::init() {
     const QString label = plugin ? plugin->getPluginLabel() : QString();
     const QString title = label.isEmpty() ? storedName : label;
+    // Whoever hears of the new entry, or of the new style below, may delete this module.
+    const QPointer<QObject> self(this);
     brisk::ModuleObject* entry = ot::gyre::registerPage(this, title, QLatin1String(pageGroup), QLatin1String(""), -1);
     if (entry)
         entry->set(this, QStringLiteral("nav"), QVariant(pageKey()), true);
-    if (plugin)
+    if (self && plugin)
         plugin->init();
 }
 
@@ -77,9 +79,10 @@ void Kite::afterInit() {
 
 void Kite::render() {
     const bool globalSheet = !plugin || plugin->getDefaultGlobalSheet();
+    const QPointer<QObject> self(this);
     if (globalSheet && settingPage)
         settingPage->startRender();
-    if (plugin)
+    if (self && plugin)
         plugin->render();
 }
 

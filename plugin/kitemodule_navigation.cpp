@@ -43,7 +43,7 @@ bool Kite::cancelPage(const QString& group, const QString& nav) {
     removeFirst(entries, nav);
     hostline::information(hostline::pluginModule()) << "kite::Kite::cancelPage : " << entries;
     // A group that holds groups is no array; an empty one in its place would take them all away.
-    if (content.isArray())
+    if (node && !content.isObject())
         node->importFromJson(this, entries, true, true, true);
     return true;
 }

@@ -43,20 +43,25 @@ void PluginSettingPage::createCenterWidget(QWidget* w) {
         hostline::error(hostline::pluginModule()) << "The page of a plugin cannot stand in itself: " << w->objectName();
         return;
     }
+    const QPointer<PluginSettingPage> self(this);
+    const QPointer<QWidget> widget(w);
     if (fullScreen && centerWidget)
         changeFullWidget(false);
+    if (!self)
+        return;
     fullScreen = false;
-    centerWidget = w;
-    if (w)
-        takeIn(w);
+    centerWidget = widget;
+    if (widget && !addToLayout(widget))
+        widget->setParent(contentWgt());
 }
 
-void PluginSettingPage::takeIn(QWidget* widget) {
-    QWidget* content = contentWgt();
-    if (content && content->layout())
-        content->layout()->addWidget(widget);
-    else if (content)
-        widget->setParent(content);
+bool PluginSettingPage::addToLayout(QWidget* widget) {
+    QLayout* layout = contentWgt() ? contentWgt()->layout() : nullptr;
+    if (!layout)
+        return false;
+    layout->addWidget(widget);
+    layout->update();
+    return true;
 }
 
 bool PluginSettingPage::changeFullWidget(bool full) {
@@ -113,13 +118,8 @@ bool PluginSettingPage::backIntoPage() {
     doWhile(false,
             {[home](QWidget* w) { w->setParent(home); }, [this](QWidget* w) { w->setWindowFlags(savedWindowFlags); },
              [this](QWidget* w) { w->setStyleSheet(savedStyleSheet); }, [](QWidget* w) { w->ensurePolished(); },
-             [this](QWidget* w) { takeIn(w); }, [this](QWidget*) { updateLayout(); }, [](QWidget* w) { w->show(); }});
+             [this](QWidget* w) { addToLayout(w); }, [](QWidget* w) { w->show(); }});
     return true;
-}
-
-void PluginSettingPage::updateLayout() {
-    if (contentWgt() && contentWgt()->layout())
-        contentWgt()->layout()->update();
 }
 
 } // namespace kite

@@ -71,15 +71,14 @@ public:
 
     /// Puts `w` into the status bar, which takes it over.
     /// \param index tells the plugin's items apart; it is no position
-    /// \return false for null, for an index that is in use and where the pendant has no status bar, or none with the
-    /// place
-    ///         for plugins; `w` is then still yours
+    /// \return false for null, for an index or a widget that is in the bar already, and where the pendant has no status
+    ///         bar with a place for plugins; `w` is then still yours
     bool createStatusBar(QWidget* w, int index);
 
     /// Adds `w` to the side bar, which takes it over.
     /// \param pageId tells the plugin's side-bar pages apart; empty for the plugin's name
-    /// \return false for null, for a page id that is in use and where the pendant has no side bar; `w` is then still
-    /// yours
+    /// \return false for null, for a page id or a widget that is in the side bar already, and where the pendant has no
+    ///         side bar; `w` is then still yours
     bool createRightExpandWidgte(QWidget* w, const QString& pageId);
 
     /// Switches the side bar to that page and opens it. A page that is not there changes nothing.

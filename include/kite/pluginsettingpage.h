@@ -47,9 +47,8 @@ public:
 private:
     bool toFullScreen();
     bool backIntoPage();
-    void takeIn(QWidget* widget);
+    bool addToLayout(QWidget* widget);
     void takeOutOfLayout();
-    void updateLayout();
     void doWhile(bool full, std::initializer_list<std::function<void(QWidget*)>> steps);
 
     // Null once the widget is deleted, whoever does it.

@@ -90,6 +90,16 @@ private slots:
         QCOMPARE(field(packKey, "title"), QStringList("Weld"));
     }
 
+    void theEntryThatMovesUpTakesAllItsFieldsAndNoOther() {
+        brisk::ModuleObject* first = ot::gyre::registerPage(nullptr, "Unfinished", pack, QString(), -1);
+        first->set(nullptr, "badge", "3", true);
+        addEntry(pack, "Weld", "kite.weld");
+        QVERIFY(m_module->cancelPage(pack, QString()));
+        QCOMPARE(field(packKey, "title"), QStringList("Weld"));
+        QCOMPARE(field(packKey, "nav"), QStringList("kite.weld"));
+        QCOMPARE(field(packKey, "badge"), QStringList(QString()));
+    }
+
     void anEmptyGroupIsRefusedAfterTheFirstLine() {
         addEntry(pack, "Weld", "kite.weld");
         QVERIFY(!m_module->cancelPage(QString(), "kite.weld"));

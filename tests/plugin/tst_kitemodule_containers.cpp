@@ -7,6 +7,7 @@
 
 #include <QLabel>
 #include <QPointer>
+#include <QSignalSpy>
 #include <QTest>
 
 #include <memory>
@@ -20,6 +21,7 @@ class TestContainers : public QObject {
 
 private slots:
     void init() {
+        m_log.reset(new pendanttest::LogWatch);
         m_frame.reset(new pendanttest::Frame);
         m_module.reset(new Kite("weld", nullptr));
         m_module->setup();
@@ -29,6 +31,7 @@ private slots:
         m_module.reset();
         m_frame.reset();
         pendanttest::resetHost();
+        m_log.reset();
     }
 
     void aStatusItemStandsBeforeTheStretch() {
@@ -62,7 +65,7 @@ private slots:
     void aNullStatusItemIsRefusedWithoutAWord() {
         QVERIFY(!m_module->createStatusBar(nullptr, 0));
         QVERIFY(!m_frame->statusBar()->keys().contains("kite.weld.0"));
-        QVERIFY(m_log.lines().isEmpty());
+        QVERIFY(m_log->lines().isEmpty());
     }
 
     void withoutTheStretchAStatusItemIsRefused() {
@@ -98,7 +101,7 @@ private slots:
     void aNullSideBarPageIsRefusedWithoutAWord() {
         QVERIFY(!m_module->createRightExpandWidgte(nullptr, "procedures"));
         QCOMPARE(m_frame->sideBar()->keys(), QStringList());
-        QVERIFY(m_log.lines().isEmpty());
+        QVERIFY(m_log->lines().isEmpty());
     }
 
     void switchingShowsTheSideBarAndThePage() {
@@ -199,6 +202,41 @@ private slots:
         QVERIFY(!m_frame->center()->keys().contains("kite.weld"));
     }
 
+    void nullLeavesThePresentCentreWidgetInPlace() {
+        auto* widget = new QLabel;
+        m_module->createCenterWidgte(widget);
+        m_module->createCenterWidgte(nullptr);
+        QVERIFY(m_module->changeFullScreen(true));
+        QVERIFY(widget->isWindow());
+        QVERIFY(m_module->changeFullScreen(false));
+    }
+
+    void aSideBarThatIsOpenIsNotShownAgain() {
+        m_module->createRightExpandWidgte(new QLabel, "wire");
+        m_module->switchRightExpandWidgte("wire");
+        QSignalSpy opened(m_frame->sideBar(), &tarp::ExpandSideBar::openChanged);
+        m_module->switchRightExpandWidgte("wire");
+        QCOMPARE(opened.count(), 0);
+    }
+
+    void aWidgetIsTakenOnce() {
+        auto* item = new QLabel;
+        QVERIFY(m_module->createStatusBar(item, 0));
+        QVERIFY(!m_module->createStatusBar(item, 1));
+        auto* page = new QLabel;
+        QVERIFY(m_module->createRightExpandWidgte(page, "wire"));
+        QVERIFY(!m_module->createRightExpandWidgte(page, "gas"));
+    }
+
+    void aSideBarPageMayBeDeletedByItsPlugin() {
+        auto* page = new QLabel;
+        m_module->createRightExpandWidgte(page, "wire");
+        m_module->switchRightExpandWidgte("wire");
+        delete page;
+        QCoreApplication::processEvents();
+        QCOMPARE(m_frame->sideBar()->keys(), QStringList());
+    }
+
     void aStatusItemMayBeDeletedByItsPlugin() {
         auto* item = new QLabel;
         m_module->createStatusBar(item, 0);
@@ -209,7 +247,7 @@ private slots:
 
 private:
     pendanttest::WorkingFolder m_folder;
-    pendanttest::LogWatch m_log;
+    std::unique_ptr<pendanttest::LogWatch> m_log;
     QScopedPointer<pendanttest::Frame> m_frame;
     std::unique_ptr<Kite> m_module;
 };

@@ -67,11 +67,15 @@ private slots:
         QCOMPARE(frame.statusBar()->item(key), item);
     }
 
-    void cleanup() { pendanttest::resetHost(); }
+    void init() { m_log.reset(new pendanttest::LogWatch); }
+    void cleanup() {
+        pendanttest::resetHost();
+        m_log.reset();
+    }
 
 private:
     pendanttest::WorkingFolder m_folder;
-    pendanttest::LogWatch m_log;
+    QScopedPointer<pendanttest::LogWatch> m_log;
 };
 
 QTEST_MAIN(TestKeys)

@@ -6,12 +6,14 @@
 
 #include "brisk/modulemanager.h"
 #include "briskx/navigation.h"
+#include "helm/messagelist.h"
 #include "kite/kitemodule.h"
 #include "kite/pluginregister.h"
 #include "tarp/factory.h"
 #include "tarp/rendering.h"
 
 #include <QDir>
+#include <QLabel>
 #include <QPointer>
 #include <QTest>
 
@@ -46,6 +48,17 @@ private:
             look(QLatin1String(call));
         if (calls)
             calls->append(QLatin1String(call));
+    }
+};
+
+class DeferredDeletes : public QObject {
+public:
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        count += event->type() == QEvent::DeferredDelete;
+        return QObject::eventFilter(watched, event);
     }
 };
 
@@ -335,7 +348,9 @@ private slots:
     void withoutAPluginTheWholeLifecycleRuns() {
         const QString sheet = QStringLiteral("QLabel { color: red; }");
         tarp::standin::setRenderStyleSheet(sheet);
-        m_module.reset(new Kite("weld", nullptr));
+        kiteFactory()->regist("weld", [](QObject* parent) { return new PluginBase(parent); });
+        kiteFactory()->cancel("weld");
+        m_module.reset(static_cast<Kite*>(bfactory()->creators.value("weld")(nullptr)));
         m_module->setup();
         m_module->afterSetup();
         m_module->init();
@@ -392,6 +407,69 @@ private slots:
         QCOMPARE(m_calls, QStringList("destructor"));
     }
 
+    void theTitleOfThePageIsThePluginsName() {
+        make();
+        m_module->setup();
+        QCOMPARE(qobject_cast<QLabel*>(page()->titleWgt())->text(), QString("weld"));
+    }
+
+    void aPageThatIsRemovedIsHandedBackAndNotDeletedByTheCentre() {
+        make();
+        m_module->setup();
+        DeferredDeletes deletes;
+        page()->wgt()->installEventFilter(&deletes);
+        m_module.reset();
+        QCOMPARE(deletes.count, 0);
+    }
+
+    void withoutAPlaceInTheNavigationThePluginIsInitialisedAllTheSame() {
+        m(QStringLiteral("gyre.page.robot.page"))->append(nullptr, "#0");
+        make();
+        m_module->setup();
+        m_module->init();
+        QCOMPARE(m_calls, QStringList("init"));
+        QCOMPARE(helm::standin::MessageList::instance()->messages().size(), 1);
+    }
+
+    void leavingAndDetachingTakeNothingAway() {
+        make();
+        m_module->setup();
+        m_module->init();
+        m_module->afterInit();
+        m_module->idle();
+        m_module->detach();
+        QVERIFY(isRegistered());
+        QVERIFY(m_frame->center()->keys().contains("kite.weld"));
+        QCOMPARE(m(entriesKey)->cmobjCount(), 1);
+    }
+
+    void whoHearsOfTheEntryMayDeleteTheModule() {
+        make();
+        m_module->setup();
+        QObject context;
+        connect(m(QStringLiteral("gyre.page")), &brisk::ModuleObject::touched, &context, [this] { m_module.reset(); });
+        m_module->init();
+        QVERIFY(!m_module);
+        QVERIFY(!m_calls.contains("init"));
+    }
+
+    void initBeforeSetupMakesTheEntryAndInitialisesThePlugin() {
+        make();
+        m_module->init();
+        QCOMPARE(m_calls, QStringList("init"));
+        QCOMPARE(m(entriesKey)->c(0)->c("nav")->getString(), QString("kite.weld"));
+    }
+
+    void theModuleAddsNoVirtualOperationOfItsOwn() {
+        // Its fields follow those of its base at once, and no slot follows beforeDetach: a pendant that calls by slot
+        // meets what it expects.
+        struct Derived : Kite {
+            using Kite::Kite;
+            virtual void first() {}
+        };
+        QCOMPARE(vtable::slotOf(&Derived::first), vtable::slotOf(&tarp::BModule::beforeDetach) + 1);
+    }
+
     void everyOperationIsNeutralBeforeSetup() {
         Kite module("weld", nullptr);
         QWidget widget;
@@ -402,6 +480,7 @@ private slots:
         QVERIFY(!module.changeFullScreen(false));
         QVERIFY(!module.changeModelWindowStatus(false));
         QVERIFY(module.changePhyBtnStatus("none", true));
+        QVERIFY(module.createPhyBtnPage("Wire", {}, {}, {}));
         QVERIFY(!module.createStatusBar(nullptr, 0));
         QVERIFY(!module.createRightExpandWidgte(nullptr, QString()));
         module.switchRightExpandWidgte(QString());

@@ -17,7 +17,11 @@ class TestThrowLog : public QObject {
     Q_OBJECT
 
 private slots:
-    void cleanup() { pendanttest::resetHost(); }
+    void init() { m_log.reset(new pendanttest::LogWatch); }
+    void cleanup() {
+        pendanttest::resetHost();
+        m_log.reset();
+    }
 
     void theLevelDecidesTheWord_data() {
         QTest::addColumn<int>("level");
@@ -26,6 +30,8 @@ private slots:
         QTest::newRow("warning") << 1 << MessageLevel::Warning;
         QTest::newRow("error") << 2 << MessageLevel::Error;
         QTest::newRow("the next number") << 3 << MessageLevel::Information;
+        QTest::newRow("a large number") << 4711 << MessageLevel::Information;
+        QTest::newRow("a negative number") << -1 << MessageLevel::Information;
     }
 
     void theLevelDecidesTheWord() {
@@ -55,12 +61,12 @@ private slots:
     void nothingOfItGoesToTheLog() {
         kite::Kite module(QStringLiteral("weld"), nullptr);
         module.ThrowLog(kite::ThrowError, QStringLiteral("The spool is empty."));
-        QCOMPARE(m_log.count(QStringLiteral("spool")), 0);
+        QCOMPARE(m_log->count(QStringLiteral("spool")), 0);
     }
 
 private:
     pendanttest::WorkingFolder m_folder;
-    pendanttest::LogWatch m_log;
+    QScopedPointer<pendanttest::LogWatch> m_log;
 };
 
 QTEST_MAIN(TestThrowLog)

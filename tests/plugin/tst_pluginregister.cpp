@@ -190,6 +190,25 @@ private slots:
         QCOMPARE(known, QStringList({"made", "factory", ""}));
     }
 
+    void thePluginManagerKnowsTheNameWhenItIsAnnounced() {
+        brisk::ModuleObject* node = m(QStringLiteral("brisk.plugin_manager.weld"));
+        bool known = false;
+        QObject* sender = nullptr;
+        connect(node, &brisk::ModuleObject::changed, m_context.data(),
+                [&](const QVariant&, const QVariant&, QObject* by) {
+                    known = brisk::pluginManager()->plugins.contains("weld");
+                    sender = by;
+                });
+        kiteFactory()->regist("weld", makes("made"));
+        QVERIFY(known);
+        QCOMPARE(sender, brisk::pluginManager()->node);
+    }
+
+    void anEmptyCreatorThrowsWhenTheHostMakesTheModule() {
+        kiteFactory()->regist("weld", nullptr);
+        QVERIFY_EXCEPTION_THROWN(bfactory()->creators.value("weld")(nullptr), std::bad_function_call);
+    }
+
     void aNameThatTheModuleFactoryHasIsLeftAlone() {
         bfactory()->creators.insert("weld", noModule);
         QStringList touched;
@@ -215,9 +234,13 @@ private slots:
         kiteFactory()->regist("weld", makes("first"));
         bfactory()->creators.clear();
         brisk::pluginManager()->plugins.clear();
+        QStringList touched;
+        follow(bfactory()->node, m_context.data(), &touched);
+        follow(brisk::pluginManager()->node, m_context.data(), &touched);
         kiteFactory()->regist("weld", makes("second"));
         QVERIFY(bfactory()->creators.isEmpty());
         QVERIFY(brisk::pluginManager()->plugins.isEmpty());
+        QCOMPARE(touched, QStringList());
     }
 
     void cancellingLeavesTheHostsEntries() {
@@ -281,6 +304,7 @@ private slots:
         QVERIFY_EXCEPTION_THROWN(bfactory()->creators.value("weld")(&parent), std::runtime_error);
         QVERIFY(parent.children().isEmpty());
         QCOMPARE(bModule("brisk.kite.weld"), static_cast<tarp::BModule*>(nullptr));
+        QCOMPARE(madeOf("weld"), QString("null"));
     }
 
     void aModuleThatIsDeletedWhileItsPluginIsMadeIsNull() {

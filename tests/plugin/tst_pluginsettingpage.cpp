@@ -143,8 +143,6 @@ private slots:
         QVERIFY(widget->isWindow());
         QVERIFY(widget->isVisible());
         // Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint
-        const uint own = uint(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
-        QCOMPARE(own & ~uint(Qt::Window), 0x4080Au);
         QCOMPARE(uint(widget->windowFlags()), 0x4080Bu);
         QCOMPARE(widget->geometry(), QGuiApplication::primaryScreen()->geometry());
         QCOMPARE(layout()->count(), 0);
@@ -177,6 +175,44 @@ private slots:
         QTRY_COMPARE(widget->geometry(), m_page->contentWgt()->rect());
     }
 
+    void theWayBackRestoresFlagsOfTheWidgetsOwn() {
+        auto* widget = new QLabel("seam");
+        m_page->createCenterWidget(widget);
+        widget->setWindowFlags(Qt::Widget | Qt::CustomizeWindowHint);
+        const Qt::WindowFlags flags = widget->windowFlags();
+        QVERIFY(flags.testFlag(Qt::CustomizeWindowHint));
+        QVERIFY(m_page->changeFullWidget(true));
+        QVERIFY(!widget->windowFlags().testFlag(Qt::CustomizeWindowHint));
+        QVERIFY(m_page->changeFullWidget(false));
+        QCOMPARE(widget->windowFlags(), flags);
+    }
+
+    void withoutALayoutTheWayBackLeadsToTheFormerParent() {
+        auto* widget = new QLabel("seam");
+        m_page->createCenterWidget(widget);
+        auto* box = new QWidget(m_page->contentWgt());
+        widget->setParent(box);
+        delete layout();
+        QVERIFY(m_page->changeFullWidget(true));
+        QVERIFY(m_page->changeFullWidget(false));
+        QCOMPARE(widget->parentWidget(), box);
+    }
+
+    void withoutALayoutTheContentTakesTheCentreWidgetAllTheSame() {
+        delete layout();
+        auto* widget = new QLabel("seam");
+        m_page->createCenterWidget(widget);
+        QCOMPARE(widget->parentWidget(), m_page->contentWgt());
+    }
+
+    void fullScreenIsTheActiveWindow() {
+        auto* widget = new QLabel("seam");
+        m_page->createCenterWidget(widget);
+        showPage();
+        QVERIFY(m_page->changeFullWidget(true));
+        QTRY_VERIFY(widget->isActiveWindow());
+    }
+
     void fullScreenCanBeEnteredAgainAndAgain() {
         auto* widget = new QLabel("seam");
         m_page->createCenterWidget(widget);
@@ -201,6 +237,7 @@ private slots:
         QVERIFY(first->isVisible());
         QCOMPARE(first->parentWidget(), m_page->contentWgt());
         QCOMPARE(layout()->indexOf(first), 0);
+        QCOMPARE(layout()->count(), 1);
 
         QVERIFY(m_page->changeFullWidget(false));
         QCOMPARE(layout()->indexOf(first), 0);
@@ -234,6 +271,9 @@ private slots:
         showPage();
         QVERIFY(m_page->changeFullWidget(true));
         m_page->createCenterWidget(second);
+        QCOMPARE(layout()->indexOf(first), 0);
+        QCOMPARE(layout()->indexOf(second), 1);
+        QVERIFY(!first->isWindow() && !second->isWindow());
         m_owner.reset();
         QVERIFY(first.isNull());
         QVERIFY(second.isNull());
@@ -244,9 +284,12 @@ private slots:
         const QPointer<QLabel> widget(new QLabel("seam"));
         m_page->createCenterWidget(widget);
         m_page->createCenterWidget(widget);
+        QCOMPARE(layout()->count(), 1);
         showPage();
         QVERIFY(m_page->changeFullWidget(true));
+        QCOMPARE(layout()->count(), 0);
         QVERIFY(m_page->changeFullWidget(false));
+        QCOMPARE(layout()->count(), 1);
         m_owner.reset();
         QVERIFY(widget.isNull());
     }

@@ -4,6 +4,7 @@
 #include "helm/managerhelper.h"
 
 #include <QCoreApplication>
+#include <QPointer>
 
 namespace ot {
 namespace gyre {
@@ -46,11 +47,11 @@ brisk::ModuleObject* registerPage(tarp::BModule* module, const QString& title, c
     auto* entry = new brisk::ModuleObject(brisk::ModuleObject::generateId(entries));
     entry->set(module, QStringLiteral("title"), title, false);
     entry->set(module, QStringLiteral("icon"), icon, false);
-    if (!entries->insertChild(index, entry)) {
+    // Whoever hears of it may take it away again.
+    const QPointer<brisk::ModuleObject> inserted(entry);
+    if (!entries->insertChild(index, entry))
         delete entry;
-        return nullptr;
-    }
-    return entry;
+    return inserted;
 }
 
 } // namespace gyre

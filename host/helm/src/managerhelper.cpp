@@ -24,6 +24,8 @@ standin::MessageLevel levelOf(const QString& word) {
         return standin::MessageLevel::Error;
     if (word == QLatin1String("warning"))
         return standin::MessageLevel::Warning;
+    if (word != QLatin1String("info"))
+        qWarning("A message has the level \"%s\"; the levels are info, warning and error.", qUtf8Printable(word));
     return standin::MessageLevel::Information;
 }
 

@@ -98,6 +98,9 @@ QStringList LogWatch::takeProblems() {
 }
 
 bool LogWatch::verify() {
+    // QTest puts its own handler in place when it starts, so a watch from before that hears nothing.
+    if (qInstallMessageHandler(handle) != handle)
+        QTest::qFail("This LogWatch was made before the test began; make it in init().", __FILE__, __LINE__);
     const QStringList taken = takeProblems();
     for (const QString& problem : taken)
         QTest::qFail(qPrintable(problem), __FILE__, __LINE__);
