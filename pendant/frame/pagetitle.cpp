@@ -5,33 +5,19 @@
 
 namespace pendant {
 
-namespace {
-
-// Empty for a page that no entry leads to.
-QString titleOf(const QString& page) {
-    for (const ot::gyre::standin::Group& group : ot::gyre::standin::NavigationModel::instance()->groups()) {
-        for (const ot::gyre::standin::Entry& entry : group.entries) {
-            if (entry.nav == page)
-                return entry.title;
-        }
-    }
-    return QString();
-}
-
-} // namespace
+using ot::gyre::standin::NavigationModel;
 
 PageTitle::PageTitle(tarp::CenterWidget* center, QWidget* parent) : QLabel(parent), m_center(center) {
     setObjectName(QStringLiteral("pageTitle"));
     setTextFormat(Qt::PlainText);
     connect(center, &tarp::CenterWidget::currentChanged, this, &PageTitle::showTitle);
-    connect(ot::gyre::standin::NavigationModel::instance(), &ot::gyre::standin::NavigationModel::changed, this,
-            &PageTitle::showTitle);
+    connect(NavigationModel::instance(), &NavigationModel::changed, this, &PageTitle::showTitle);
     showTitle();
 }
 
 void PageTitle::showTitle() {
     const QString page = m_center->current();
-    setText(pagekeys::isOwn(page) ? QString() : titleOf(page));
+    setText(pagekeys::isOwn(page) ? QString() : NavigationModel::instance()->titleOf(page));
     setVisible(!text().isEmpty());
 }
 

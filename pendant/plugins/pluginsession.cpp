@@ -11,20 +11,6 @@
 
 namespace pendant {
 
-namespace {
-
-QString navigationTitle(const QString& page) {
-    for (const ot::gyre::standin::Group& group : ot::gyre::standin::NavigationModel::instance()->groups()) {
-        for (const ot::gyre::standin::Entry& entry : group.entries) {
-            if (entry.nav == page)
-                return entry.title;
-        }
-    }
-    return QString();
-}
-
-} // namespace
-
 PluginSession::PluginSession(CallGuard* guard, const PluginLoader* loader, QObject* parent)
     : QObject(parent), m_guard(guard), m_loader(loader) {}
 
@@ -178,7 +164,7 @@ QString PluginSession::pageOf(const tarp::BModule* module) const {
 
 QString PluginSession::titleOf(const Plugin& plugin) const {
     const QString page = pageOf(plugin.module);
-    const QString title = page.isEmpty() ? QString() : navigationTitle(page);
+    const QString title = page.isEmpty() ? QString() : ot::gyre::standin::NavigationModel::instance()->titleOf(page);
     return title.isEmpty() ? plugin.title : title;
 }
 

@@ -95,6 +95,16 @@ QList<Group> NavigationModel::groups() const {
     return groups;
 }
 
+QString NavigationModel::titleOf(const QString& nav) const {
+    for (const Group& group : groups()) {
+        for (const Entry& entry : group.entries) {
+            if (entry.nav == nav)
+                return entry.title;
+        }
+    }
+    return QString();
+}
+
 } // namespace standin
 } // namespace gyre
 } // namespace ot

@@ -36,6 +36,8 @@ public:
     void declareGroup(const QString& path, const QString& title, const QString& icon);
     /// Declared groups first, then those that registerPage() made by itself.
     QList<Group> groups() const;
+    /// The title of the first entry that leads to the page; empty when none does.
+    QString titleOf(const QString& nav) const;
 
 signals:
     /// Entries or groups changed. Emitted once for a burst of changes, when control is back in the event loop.
