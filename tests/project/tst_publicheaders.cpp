@@ -21,7 +21,7 @@ void PublicHeaders::kiteHIncludesEveryPublicHeader() {
         included << include.name.section('/', 1);
     included.sort();
 
-    QCOMPARE(included, folder.entryList({"*.h"}, QDir::Files, QDir::Name));
+    QCOMPARE(included.join(' '), folder.entryList({"*.h"}, QDir::Files, QDir::Name).join(' '));
 }
 
 QTEST_GUILESS_MAIN(PublicHeaders)
