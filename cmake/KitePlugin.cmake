@@ -1,3 +1,6 @@
+# Every plugin that stands where the pendant finds it.
+add_custom_target(plugins)
+
 # kite_add_plugin(NAME SOURCES file...)
 #
 # Builds the plugin NAME as a shared object from the sources, against Kite and Qt, and leaves it where the pendant finds
@@ -7,10 +10,11 @@ function(kite_add_plugin name)
     if(NOT arg_SOURCES)
         message(FATAL_ERROR "kite_add_plugin(${name}): name the plugin's sources after SOURCES.")
     endif()
+    add_library(${name} MODULE ${arg_SOURCES})
     if(NOT arg_OUTPUT_DIRECTORY)
         set(arg_OUTPUT_DIRECTORY "${KITE_PLUGIN_DIR}")
+        add_dependencies(plugins ${name})
     endif()
-    add_library(${name} MODULE ${arg_SOURCES})
     set_target_properties(${name} PROPERTIES
         AUTOMOC ON AUTORCC ON
         CXX_STANDARD 17 CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON

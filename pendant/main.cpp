@@ -5,17 +5,15 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 
 namespace {
 
-// A tour needs no screen: it makes its pictures off the screen where there is none.
-void chooseScreen(int argc, char** argv) {
-    const bool hasScreen = std::getenv("DISPLAY") || std::getenv("WAYLAND_DISPLAY") || std::getenv("QT_QPA_PLATFORM");
-    for (int i = 1; i < argc && !hasScreen; ++i) {
-        if (std::strncmp(argv[i], "--tour", 6) == 0)
-            qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
+bool hasScreen() {
+    return std::getenv("DISPLAY") || std::getenv("WAYLAND_DISPLAY") || std::getenv("QT_QPA_PLATFORM");
+}
+
+bool needsScreen(const pendant::Options& options) {
+    return options.tourFolder.isEmpty() && options.help.isEmpty() && options.error.isEmpty();
 }
 
 int fail(const QString& text) {
@@ -26,7 +24,10 @@ int fail(const QString& text) {
 } // namespace
 
 int main(int argc, char** argv) {
-    chooseScreen(argc, argv);
+    const bool screen = hasScreen();
+    // The tour makes its pictures off the screen where there is none, and help needs none.
+    if (!screen)
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     pendant::Application application(argc, argv);
     const pendant::Options options = pendant::OptionReader::read(application.arguments());
     if (!options.help.isEmpty()) {
@@ -35,6 +36,10 @@ int main(int argc, char** argv) {
     }
     if (!options.error.isEmpty())
         return fail(options.error);
+    if (!screen && needsScreen(options))
+        return fail(QCoreApplication::translate(
+            "pendant::OptionReader",
+            "There is no display. Start the pendant under one, or let it play its tour with --tour."));
     const QString error = pendant::enterWorkFolder(options.workFolder);
     if (!error.isEmpty())
         return fail(error);

@@ -11,6 +11,7 @@ public:
 
     void init() override {
         auto* label = new QLabel(QStringLiteral("Hello, robot."));
+        label->setObjectName(QStringLiteral("greeting"));
         label->setAlignment(Qt::AlignCenter);
         module->createCenterWidgte(label);
     }

@@ -3,6 +3,9 @@
 #include "kite/pluginbase.h"
 #include "kite/pluginregister.h"
 
+#include "helm/managerhelper.h"
+#include "tarp/factory.h"
+
 #include <QObject>
 #include <QString>
 
@@ -26,9 +29,15 @@ constexpr bool isPluginName(const char* name) {
     return true;
 }
 
-/// What KITE_PLUGIN runs when the shared object is loaded. \return true
-/// \since 0.1
+/// What KITE_PLUGIN runs when the shared object is loaded. A name that is taken is an error in the message list.
+/// \return true \since 0.1
 template <typename Class> bool registerPlugin(const QString& name) {
+    if (bfactory()->creators.contains(name))
+        helm::ManagerHelper::throwLog(
+            nullptr, QStringLiteral("error"),
+            QStringLiteral("A second plugin is called \"%1\" and is left out: the first one that was "
+                           "loaded keeps the name. Give one of them another name.")
+                .arg(name));
     kiteFactory()->regist(name, [](QObject* parent) -> PluginBase* { return new Class(parent); });
     return true;
 }
@@ -47,7 +56,8 @@ template <typename Class> bool registerPlugin(const QString& name) {
 ///
 /// \since 0.1
 #define KITE_PLUGIN(Class, name)                                                                                       \
-    static_assert(::kite::isPluginName("" name), "KITE_PLUGIN: a plugin's name is made of letters, digits, _ and -");  \
+    static_assert(::kite::isPluginName("" name),                                                                       \
+                  "KITE_PLUGIN: a plugin's name is not empty and made of letters, digits, _ and - only");              \
     static_assert(std::is_base_of<::kite::PluginBase, Class>::value,                                                   \
                   "KITE_PLUGIN: the plugin's class derives from kite::PluginBase");                                    \
     static_assert(std::is_constructible<Class, QObject*>::value,                                                       \

@@ -97,7 +97,7 @@ void PendantWindow::arrange() {
 }
 
 QLayout* PendantWindow::arrangePage() {
-    m_pageTitle->setContentsMargins(16, 8, 16, 0);
+    m_pageTitle->setContentsMargins(16, 12, 16, 0);
     auto* column = new QVBoxLayout;
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);

@@ -5,6 +5,7 @@
 #include <QEvent>
 #include <QPushButton>
 #include <QScroller>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace pendant {
@@ -121,8 +122,13 @@ void SideBarHeader::rebuild() {
 }
 
 void SideBarHeader::markCurrent() {
-    for (QPushButton* tab : m_tabs->findChildren<QPushButton*>())
-        tab->setChecked(tab->objectName() == QStringLiteral("tab:") + m_bar->current());
+    for (QPushButton* tab : m_tabs->findChildren<QPushButton*>()) {
+        const bool current = tab->objectName() == QStringLiteral("tab:") + m_bar->current();
+        tab->setChecked(current);
+        // Where its place is known only once the row has been laid out.
+        if (current)
+            QTimer::singleShot(0, tab, [this, tab] { m_tabs->ensureWidgetVisible(tab, 0, 0); });
+    }
 }
 
 void SideBarHeader::dress() {

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QEventLoop>
+#include <QMouseEvent>
 #include <QTimer>
 
 namespace pendant {
@@ -25,6 +26,20 @@ bool isShown(const QPointer<QWidget>& window) {
     return window && window->isWindow() && window->isVisible();
 }
 
+void sendMouse(QPointer<QAbstractButton> button, QEvent::Type type, Qt::MouseButtons held) {
+    if (!button)
+        return;
+    const QPoint centre = button->rect().center();
+    QMouseEvent event(type, centre, button->mapToGlobal(centre), Qt::LeftButton, held, Qt::NoModifier);
+    QCoreApplication::sendEvent(button, &event);
+}
+
+// Through the event loop, as a person's press comes, for there the pendant catches what a handler throws.
+void click(const QPointer<QAbstractButton>& button) {
+    sendMouse(button, QEvent::MouseButtonPress, Qt::LeftButton);
+    sendMouse(button, QEvent::MouseButtonRelease, Qt::NoButton);
+}
+
 } // namespace
 
 void settle() {
@@ -38,7 +53,7 @@ Appeared press(QAbstractButton* button) {
     const QWidgetList before = shownWindows();
     bool pressing = true;
     QTimer watch;
-    // While click() does not come back, only the event loop of the window that it waits for turns.
+    // While the click does not come back, only the event loop of the window that it waits for turns.
     QObject::connect(&watch, &QTimer::timeout, [&] {
         QWidget* blocking = pressing ? QApplication::activeModalWidget() : nullptr;
         if (!blocking)
@@ -47,8 +62,14 @@ Appeared press(QAbstractButton* button) {
         blocking->close();
     });
     watch.start(restMs);
-    button->click();
-    pressing = false;
+    // From within an event loop, where what a press deletes later is deleted.
+    QEventLoop loop;
+    QTimer::singleShot(0, &loop, [&] {
+        click(button);
+        pressing = false;
+        loop.quit();
+    });
+    loop.exec();
     settle();
     for (QWidget* window : shownWindows()) {
         if (!before.contains(window))

@@ -187,6 +187,10 @@
 <context>
     <name>pendant::OptionReader</name>
     <message>
+        <source>There is no display. Start the pendant under one, or let it play its tour with --tour.</source>
+        <translation>Es gibt keine Anzeige. Starten Sie das Bediengerät unter einer solchen, oder lassen Sie mit --tour den Rundgang ablaufen.</translation>
+    </message>
+    <message>
         <source>A robot teach pendant with its plugins, without a robot.</source>
         <translation>Das Bediengerät eines Roboters mit seinen Plugins, ohne Roboter.</translation>
     </message>

@@ -187,6 +187,10 @@
 <context>
     <name>pendant::OptionReader</name>
     <message>
+        <source>There is no display. Start the pendant under one, or let it play its tour with --tour.</source>
+        <translation>没有显示器。请在有显示器的环境中启动示教器，或使用 --tour 播放巡览。</translation>
+    </message>
+    <message>
         <source>A robot teach pendant with its plugins, without a robot.</source>
         <translation>无需机器人即可运行的示教器及其插件。</translation>
     </message>

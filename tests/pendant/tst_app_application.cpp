@@ -1,6 +1,7 @@
 #include "framefixture.h"
 
 #include "helm/basesettingpage.h"
+#include "tour/press.h"
 
 #include <QProxyStyle>
 #include <QPushButton>
@@ -21,6 +22,7 @@ private slots:
     void init() { helm::standin::MessageList::instance()->clear(); }
     void whatAnEventHandlerThrowsIsReportedUnderTheWidget();
     void whatAPluginsWidgetThrowsIsReportedUnderThePlugin();
+    void whatAButtonThrowsThatTheTourPressesIsReported();
     void whatIsNoExceptionIsReportedToo();
     void whatATimerThrowsIsReported();
     void whatAnotherThreadThrowsIsReportedHere();
@@ -58,6 +60,16 @@ void TestApplication::whatAPluginsWidgetThrowsIsReportedUnderThePlugin() {
     QTest::mouseClick(button, Qt::LeftButton);
     QCOMPARE(messages().last().source, QString("weld"));
     QVERIFY(frame.window->isVisible());
+}
+
+void TestApplication::whatAButtonThrowsThatTheTourPressesIsReported() {
+    QPushButton button;
+    button.setObjectName("go");
+    button.show();
+    connect(&button, &QPushButton::clicked, [] { throw std::runtime_error("no wire"); });
+    pendant::press(&button);
+    QCOMPARE(messages().size(), 1);
+    QCOMPARE(messages().last().source, QString("QPushButton 'go'"));
 }
 
 void TestApplication::whatIsNoExceptionIsReportedToo() {

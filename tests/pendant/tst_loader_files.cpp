@@ -75,7 +75,15 @@ private slots:
     }
 
     void aFileThatHoldsTakenNamesOnlyIsTold() {
-        refuse(PLUGIN_fixture_taken, "registers no plugin, or only names that other plugins hold.");
+        const QString reason = "registers no plugin, or only names that other plugins hold.";
+        expectError(PLUGIN_fixture_taken + (' ' + reason));
+        m_loader->loadFile(PLUGIN_fixture_taken);
+        const QList<Message>& messages = MessageList::instance()->messages();
+        QCOMPARE(messages.size(), 2);
+        QCOMPARE(messages.first().level, MessageLevel::Error);
+        QVERIFY2(messages.first().text.startsWith("A second plugin is called \"first\""),
+                 qPrintable(messages.first().text));
+        QCOMPARE(messages.last().text, PLUGIN_fixture_taken + (' ' + reason));
     }
 
     void aFileThatRegistersNothingIsTold() {

@@ -1,5 +1,8 @@
 #include "pendanttest/pendant.h"
 
+#include "plugins/report.h"
+#include "plugins/thrown.h"
+
 #include "brisk/modulemanager.h"
 #include "briskx/buttonpages.h"
 #include "briskx/navigationmodel.h"
@@ -122,7 +125,10 @@ bool Pendant::press(const QString& nameOrText) {
     QAbstractButton* button = findButton(nameOrText);
     if (!button || !button->isEnabled())
         return false;
-    QTest::mouseClick(button, Qt::LeftButton);
+    const QString thrown = pendant::thrownBy([button] { QTest::mouseClick(button, Qt::LeftButton); });
+    if (!thrown.isEmpty())
+        pendant::reportError(QStringLiteral("pendant"),
+                             QStringLiteral("The button \"%1\" threw: %2").arg(nameOrText, thrown));
     return true;
 }
 

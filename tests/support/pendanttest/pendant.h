@@ -73,7 +73,8 @@ public:
     /// The visible button of that object name or, without regard to the mark of a mnemonic, text, on the page that is
     /// shown, in a full-screen window, the side bar or the status bar; null when there is none.
     QAbstractButton* findButton(const QString& nameOrText) const;
-    /// Clicks it with the left mouse button; false when there is none or it is disabled.
+    /// Clicks it with the left mouse button; false when there is none or it is disabled. What its handler throws is an
+    /// error line.
     bool press(const QString& nameOrText);
     /// Presses (`held`) or lets go of the physical key `key` of the enabled page `page`; false when there is none.
     bool holdKey(const QString& page, const QString& key, bool held);
