@@ -20,5 +20,7 @@ function(kite_add_plugin name)
         CXX_STANDARD 17 CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON
         LIBRARY_OUTPUT_DIRECTORY "${arg_OUTPUT_DIRECTORY}")
     target_link_libraries(${name} PRIVATE Kite::kite)
+    # A pendant has Qt 5.12: with the mark of a newer Qt its loader would not take the plugin.
+    target_compile_definitions(${name} PRIVATE QT_NO_VERSION_TAGGING)
     target_link_options(${name} PRIVATE -Wl,--no-undefined)
 endfunction()

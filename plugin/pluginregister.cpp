@@ -7,8 +7,6 @@
 #include <QPointer>
 #include <QVariant>
 
-#include <utility>
-
 namespace kite {
 
 namespace {
@@ -25,7 +23,7 @@ void PluginRegister::regist(const QString& name, std::function<PluginBase*(QObje
         return;
     // The text of a literal lies in the plugin's file and would go with it.
     const QString ownName(name.constData(), name.size());
-    creators.insert(ownName, std::move(creator));
+    creators.insert(ownName, creator);
 
     tarp::ModuleFactory* factory = bfactory();
     if (!factory->creators.contains(name)) {

@@ -4,11 +4,7 @@
 
 #include <QTest>
 
-using helm::standin::Message;
 using helm::standin::MessageLevel;
-using pendant::CallRecord;
-using pendant::PluginFile;
-using pendant::PluginInfo;
 using pendant::PluginState;
 using pendant::Transcript;
 

@@ -15,7 +15,7 @@ TaskNetworkManager::~TaskNetworkManager() = default;
 void TaskNetworkManager::registerTask(enTaskType type, QObject* owner, const QString& id, Task task,
                                       const QStringList&) {
     const QPair<int, QString> key(type, id);
-    d->tasks.insert(key, std::move(task));
+    d->tasks.insert(key, task);
     if (owner)
         connect(owner, &QObject::destroyed, this, [this, key] { d->tasks.remove(key); });
 }
