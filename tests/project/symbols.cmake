@@ -18,6 +18,7 @@ foreach(name IN ITEMS toonew tagged exporting)
 endforeach()
 
 project_check(kite_takes_nothing_newer_than_qt_5_12 "${tools}/check-imports" $<TARGET_FILE:kite>)
+project_check(a_plugin_takes_nothing_newer_than_qt_5_12 "${tools}/check-imports" $<TARGET_FILE:weld>)
 project_check(an_import_newer_than_qt_5_12_is_refused
     "${expect_refusal}" "isValidUtf16(QStringView): since Qt 5.15" "${tools}/check-imports" $<TARGET_FILE:toonew>)
 project_check(the_mark_of_a_newer_qt_is_refused
