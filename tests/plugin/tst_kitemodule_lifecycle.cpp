@@ -1,5 +1,3 @@
-#include "vtable.h"
-
 #include "pendanttest/frame.h"
 #include "pendanttest/logwatch.h"
 #include "pendanttest/workingfolder.h"
@@ -460,16 +458,6 @@ private slots:
         QCOMPARE(m(entriesKey)->c(0)->c("nav")->getString(), QString("kite.weld"));
     }
 
-    void theModuleAddsNoVirtualOperationOfItsOwn() {
-        // Its fields follow those of its base at once, and no slot follows beforeDetach: a pendant that calls by slot
-        // meets what it expects.
-        struct Derived : Kite {
-            using Kite::Kite;
-            virtual void first() {}
-        };
-        QCOMPARE(vtable::slotOf(&Derived::first), vtable::slotOf(&tarp::BModule::beforeDetach) + 1);
-    }
-
     void everyOperationIsNeutralBeforeSetup() {
         Kite module("weld", nullptr);
         QWidget widget;
@@ -491,32 +479,6 @@ private slots:
         module.idle();
         module.detach();
         QCOMPARE(module.wgt(), static_cast<QWidget*>(nullptr));
-    }
-
-    void theVirtualOperationsComeInTheStatedOrder() {
-        std::ptrdiff_t slot = vtable::LastOfQObject::slot() + 1;
-        QCOMPARE(vtable::slotOf(&BModule::name), slot++);
-        QCOMPARE(vtable::slotOf(&BModule::wgt), slot++);
-        for (auto call :
-             {&BModule::setup, &BModule::afterSetup, &BModule::init, &BModule::afterInit, &BModule::render,
-              &BModule::afterRender, &BModule::idle, &BModule::afterIdle, &BModule::detach, &BModule::beforeDetach})
-            QCOMPARE(vtable::slotOf(call), slot++);
-    }
-
-    void theModuleOverridesWhatItShouldAndNothingElse() {
-        const Kite module("weld", nullptr);
-        const BModule base;
-        const auto overridden = [&](auto member) {
-            const std::ptrdiff_t slot = vtable::slotOf(member);
-            return vtable::entry(&module, slot) != vtable::entry(&base, slot);
-        };
-        QVERIFY(overridden(&BModule::name));
-        for (auto call :
-             {&BModule::setup, &BModule::init, &BModule::afterInit, &BModule::render, &BModule::idle, &BModule::detach})
-            QVERIFY(overridden(call));
-        QVERIFY(!overridden(&BModule::wgt));
-        for (auto call : {&BModule::afterSetup, &BModule::afterRender, &BModule::afterIdle, &BModule::beforeDetach})
-            QVERIFY(!overridden(call));
     }
 
 private:

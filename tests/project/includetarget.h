@@ -11,6 +11,9 @@ struct Include {
     QString name;
 };
 
+/// The whole text of a file; ends the program when it cannot be read.
+QString readText(const QString& path);
+
 /// The #include lines of `text`, the content of `file`.
 QVector<Include> includesIn(const QString& file, const QString& text);
 

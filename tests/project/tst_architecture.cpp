@@ -13,13 +13,6 @@ using Arrow = QPair<QString, QString>; // from, to: paths of the project
 
 namespace {
 
-QString readText(const QString& path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("cannot read %s", qPrintable(path));
-    return QString::fromUtf8(file.readAll());
-}
-
 // The name by which one includes a header of the place: "host/helm" -> "helm/probe.h"
 QString probeName(const QString& place) {
     return place.section(QLatin1Char('/'), -1) + QLatin1String("/probe.h");

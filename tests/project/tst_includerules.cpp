@@ -8,13 +8,6 @@
 
 namespace {
 
-QString readText(const QString& path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("cannot read %s", qPrintable(path));
-    return QString::fromUtf8(file.readAll());
-}
-
 const QStringList folders{"include",    "plugin",  "interface", "log",   "instruction", "host",
                           "controller", "pendant", "examples",  "tests", "bench"};
 
