@@ -53,7 +53,7 @@ void IncludeRules::forbiddenIncludesAreNamed_data() {
     const auto row = [](const char* file, const char* line, const QString& reason) {
         QTest::addRow("%s, %s", file, line) << file << line << reason;
     };
-    row("include/kite/a.h", "#include \"brisk/buslink.h\"", "a public header knows");
+    row("include/kite/a.h", "#include \"brisk/link.h\"", "a public header knows");
     row("include/kite/a.h", "#include <QTcpSocket>", "a public header knows");
     row("include/kite/a.h", "#include <charconv>", "the pendant's compiler lacks it");
     row("plugin/a.cpp", "#include \"briskx/navigationmodel.h\"", libraryReason);
@@ -67,13 +67,13 @@ void IncludeRules::forbiddenIncludesAreNamed_data() {
     row("host/helm/src/a.cpp", "#include \"briskx/navigation.h\"", beneath);
     row("host/briskTarp/src/a.cpp", "#include \"helm/settingmanager.h\"", beneath);
     row("host/briskCore/src/a.cpp", "#include \"tarp/factory.h\"", beneath);
-    row("host/briskCore/include/brisk/a.h", "#include \"brisk/buslink.h\"", "does not show the stand-in");
+    row("host/briskCore/include/brisk/a.h", "#include \"brisk/link.h\"", "does not show the stand-in");
     row("controller/a.cpp", "#include \"kite/plugin.h\"", "the controller does not know the library");
     row("controller/a.cpp", "#include <QLabel>", "the controller has no widgets");
     row("controller/a.cpp", "#include <QtWidgets>", "the controller has no widgets");
     row("pendant/a.cpp", "#include <kite/plugin.h>", "the pendant meets plugins only through");
     row("examples/hello/a.cpp", "#include \"helm/physicalbutton.h\"", "an example knows");
-    row("examples/hello/a.cpp", "#include \"brisk/buslink.h\"", "an example knows");
+    row("examples/hello/a.cpp", "#include \"brisk/link.h\"", "an example knows");
 }
 
 void IncludeRules::forbiddenIncludesAreNamed() {
@@ -97,8 +97,8 @@ void IncludeRules::allowedIncludesPass_data() {
     row("plugin/a.cpp", "#include <vector>");
     row("plugin/a.cpp", "// #include <filesystem>");
     row("host/briskx/src/a.cpp", "#include \"brisk/moduleobject.h\"");
-    row("host/helm/standin/helm/a.h", "#include \"brisk/buslink.h\"");
-    row("controller/a.cpp", "#include \"brisk/buslink.h\"");
+    row("host/helm/standin/helm/a.h", "#include \"brisk/link.h\"");
+    row("controller/a.cpp", "#include \"brisk/link.h\"");
     row("controller/a.cpp", "#include <filesystem>");
     row("pendant/a.cpp", "#include \"tarp/factory.h\"");
     row("examples/hello/a.cpp", "#include \"kite/plugin.h\"");

@@ -1,9 +1,13 @@
 #include "helm/managerhelper.h"
 
+#include "brisk/channel.h"
+#include "brisk/relay.h"
 #include "helm/messagelist.h"
 #include "tarp/modulelabel.h"
 
 #include <QDir>
+
+using brisk::standin::Channel;
 
 namespace helm {
 
@@ -37,7 +41,16 @@ struct ManagerHelper::Private {
     TaskNetworkManager taskNetworkManager;
 };
 
-ManagerHelper::ManagerHelper() : d(new Private) {}
+ManagerHelper::ManagerHelper() {
+    // The bus's own node tells of its link before the managers do.
+    relay();
+    d.reset(new Private);
+    for (Channel* channel : {Channel::bus(), Channel::controller()}) {
+        connect(channel, &Channel::noticed, this, [](const QString& text) {
+            standin::MessageList::instance()->add(standin::MessageLevel::Warning, QStringLiteral("controller"), text);
+        });
+    }
+}
 ManagerHelper::~ManagerHelper() = default;
 
 ManagerHelper* ManagerHelper::instance() {

@@ -1,53 +1,44 @@
-#include "brisk/buslink.h"
 #include "brisk/relay.h"
+#include "pendanttest/fakelink.h"
 
 #include <QJsonArray>
+#include <QJsonObject>
 #include <QSignalSpy>
 #include <QTest>
 
 using brisk::ModuleObject;
+using brisk::standin::contentOf;
+using brisk::standin::Message;
+using brisk::standin::Verb;
+using pendanttest::FakeLink;
 
-namespace {
-
-class FakeLink : public brisk::standin::BusLink {
-public:
-    ModuleObject* get(const QString& key, const QString& subKey) override {
-        asked << key + '|' + subKey;
-        return answer;
-    }
-
-    QStringList asked;
-    ModuleObject* answer = nullptr;
-};
-
-} // namespace
-
-class LinkDown : public QObject {
+class RelayCalls : public QObject {
     Q_OBJECT
 
 private slots:
-    void cleanup();
     void thereIsOneBus();
     void connectedIsThereAndFalse();
-    void everyAnswerIsAnEmptyNode();
+    void connectedFollowsTheLink();
+    void whoeverHearsOfConnectedFindsTheBusUp();
+    void withTheLinkDownEveryAnswerIsAnEmptyNode();
+    void withTheLinkDownNothingIsSent();
+    void everyCallIsAMessage();
+    void whatWantsAnAnswerGetsIt();
+    void aNodeIsSentInTheOrderOfItsChildren();
     void aReplyNodeIsUsedAgainByItsCommand();
     void aUsedReplyNodeComesBackEmpty();
-    void sendingAndWatchingDoNothing();
-    void aKeyHasOneWatchNodeForLife();
-    void getAsksTheLinkBehindTheBus();
-    void aNullAnswerIsHandedOn();
+    void aNodeThatWasSentMayDie();
+    void withoutAnAnswerTheReplyIsEmpty();
+    void aFarSideThatAnswersNothingGivesNull();
+    void manyCommandsOfOneNameUseOneNode();
 };
 
-void LinkDown::cleanup() {
-    brisk::standin::setBusLink(nullptr);
-}
-
-void LinkDown::thereIsOneBus() {
+void RelayCalls::thereIsOneBus() {
     QVERIFY(relay());
     QCOMPARE(relay(), relay());
 }
 
-void LinkDown::connectedIsThereAndFalse() {
+void RelayCalls::connectedIsThereAndFalse() {
     const Relay fresh;
     ModuleObject* connected = fresh.mobj()->c("connected");
     QVERIFY(connected);
@@ -55,7 +46,38 @@ void LinkDown::connectedIsThereAndFalse() {
     QCOMPARE(fresh.mobj()->r("connected"), connected);
 }
 
-void LinkDown::everyAnswerIsAnEmptyNode() {
+void RelayCalls::connectedFollowsTheLink() {
+    ModuleObject* connected = relay()->mobj()->c("connected");
+    QSignalSpy changed(connected, &ModuleObject::changed);
+    {
+        FakeLink link;
+        QCOMPARE(connected->value(), QVariant(true));
+        link.setUp(false);
+        QCOMPARE(connected->value(), QVariant(false));
+        link.setUp(true);
+        const Relay late;
+        QCOMPARE(late.mobj()->c("connected")->value(), QVariant(true));
+    }
+    QCOMPARE(connected->value(), QVariant(false));
+    QCOMPARE(changed.size(), 4);
+}
+
+void RelayCalls::whoeverHearsOfConnectedFindsTheBusUp() {
+    FakeLink link;
+    link.setUp(false);
+    link.answerWith(contentOf(QVariant(5)));
+    QJsonValue seen;
+    const auto connection =
+        connect(relay()->mobj()->c("connected"), &ModuleObject::changed, this, [&](const QVariant& value) {
+            if (value.toBool())
+                seen = relay()->get(nullptr, "io")->exportToJson(true);
+        });
+    link.setUp(true);
+    disconnect(connection);
+    QCOMPARE(seen, QJsonValue(5));
+}
+
+void RelayCalls::withTheLinkDownEveryAnswerIsAnEmptyNode() {
     ModuleObject request("request");
     for (ModuleObject* reply :
          {relay()->get(nullptr, "a"), relay()->get(nullptr, "a", "b"), relay()->execCommand(nullptr, "c"),
@@ -68,15 +90,77 @@ void LinkDown::everyAnswerIsAnEmptyNode() {
     }
 }
 
-void LinkDown::aReplyNodeIsUsedAgainByItsCommand() {
+void RelayCalls::withTheLinkDownNothingIsSent() {
+    FakeLink link;
+    link.setUp(false);
+    ModuleObject node("node");
+    relay()->get(nullptr, "io");
+    relay()->set(nullptr, "io", "a", 1);
+    relay()->set(nullptr, "io", &node);
+    relay()->command(nullptr, "io", 1);
+    relay()->execCommand(nullptr, "io");
+    QCOMPARE(link.sent.size(), 0);
+}
+
+void RelayCalls::everyCallIsAMessage() {
+    FakeLink link;
+    link.answerWith(contentOf(QVariant(1)));
+    ModuleObject node("node");
+    node.set(nullptr, "a", 1);
+    relay()->get(nullptr, "g");
+    relay()->get(nullptr, "g", "s");
+    relay()->set(nullptr, "k", "", 1);
+    relay()->set(nullptr, "k", "s", "x");
+    relay()->set(nullptr, "k", &node);
+    relay()->command(nullptr, "c");
+    relay()->command(nullptr, "c", 2);
+    relay()->command(nullptr, "c", &node);
+    relay()->execCommand(nullptr, "e");
+    relay()->execCommand(nullptr, "e", QJsonArray{1, 2});
+    relay()->execCommand(nullptr, "e", &node);
+    relay()->execPluginCommand(nullptr, "ServiceAPI.plugin_7", "ServiceAPI.plugin", QJsonArray{1});
+    QCOMPARE(link.sentAs(Verb::Get), QStringList({"g||null", "g|s|null"}));
+    QCOMPARE(link.sentAs(Verb::Set), QStringList({"k||1", "k|s|\"x\"", "k||{\"a\":1}"}));
+    QCOMPARE(link.sentAs(Verb::Command), QStringList({"c||null", "c||2", "c||{\"a\":1}"}));
+    QCOMPARE(link.sentAs(Verb::Execute),
+             QStringList({"e||null", "e||[1,2]", "e||{\"a\":1}", "ServiceAPI.plugin_7|ServiceAPI.plugin|[1]"}));
+    for (const Message& message : link.sent)
+        QCOMPARE(message.wantsAnswer, message.verb == Verb::Get || message.verb == Verb::Execute);
+}
+
+void RelayCalls::whatWantsAnAnswerGetsIt() {
+    FakeLink link;
+    link.reply = [](const Message& message) { return contentOf(QVariant(QJsonObject{{message.key, true}})); };
+    ModuleObject node("node");
+    QCOMPARE(relay()->get(nullptr, "a")->exportToJson(true), QJsonValue(QJsonObject{{"a", true}}));
+    QCOMPARE(relay()->get(nullptr, "a", "b")->exportToJson(true), QJsonValue(QJsonObject{{"a", true}}));
+    QCOMPARE(relay()->execCommand(nullptr, "e")->exportToJson(true), QJsonValue(QJsonObject{{"e", true}}));
+    QCOMPARE(relay()->execCommand(nullptr, "f", &node)->exportToJson(true), QJsonValue(QJsonObject{{"f", true}}));
+    QCOMPARE(relay()->execPluginCommand(nullptr, "p", "s", 1)->exportToJson(true),
+             QJsonValue(QJsonObject{{"p", true}}));
+}
+
+void RelayCalls::aNodeIsSentInTheOrderOfItsChildren() {
+    FakeLink link;
+    ModuleObject names("names");
+    for (int i = 0; i < 12; ++i)
+        names.set(nullptr, QString("#%1").arg(i), i);
+    relay()->set(nullptr, "monitor.select", &names);
+    const auto children = link.sent.first().content->cmobjs();
+    for (int i = 0; i < 12; ++i)
+        QCOMPARE(children.at(i)->getInt(), i);
+}
+
+void RelayCalls::aReplyNodeIsUsedAgainByItsCommand() {
     ModuleObject* reply = relay()->execCommand(nullptr, "move.reset");
     QCOMPARE(relay()->execCommand(nullptr, "move.reset", 1), reply);
     QVERIFY(relay()->execCommand(nullptr, "move.stop") != reply);
+    QVERIFY(relay()->get(nullptr, "move.reset") != reply);
     QCOMPARE(relay()->get(nullptr, "monitor.pers", ""), relay()->get(nullptr, "monitor.pers"));
     QVERIFY(relay()->get(nullptr, "monitor", "pers") != relay()->get(nullptr, "monitor", "select"));
 }
 
-void LinkDown::aUsedReplyNodeComesBackEmpty() {
+void RelayCalls::aUsedReplyNodeComesBackEmpty() {
     relay()->execCommand(nullptr, "move.reset")->setList(nullptr, {1, QVariant()});
     relay()->execCommand(nullptr, "move.reset")->setValue(nullptr, 1);
     QVERIFY(relay()->execCommand(nullptr, "move.reset")->exportToJson(true).isNull());
@@ -84,45 +168,39 @@ void LinkDown::aUsedReplyNodeComesBackEmpty() {
     QVERIFY(relay()->execCommand(nullptr, "move.reset")->isEmpty());
 }
 
-void LinkDown::sendingAndWatchingDoNothing() {
-    QSignalSpy changed(relay()->watchNode("io"), &ModuleObject::changed);
-    ModuleObject node("node");
-    relay()->watch(nullptr, "io", true);
-    relay()->set(nullptr, "io", "a", 1);
-    relay()->set(nullptr, "io", &node);
-    relay()->command(nullptr, "io");
-    relay()->command(nullptr, "io", 1);
-    relay()->command(nullptr, "io", &node);
-    relay()->watch(nullptr, "io", false);
-    QCOMPARE(changed.size(), 0);
-    QVERIFY(node.isEmpty());
-}
-
-void LinkDown::aKeyHasOneWatchNodeForLife() {
-    ModuleObject* node = relay()->watchNode("io");
-    QVERIFY(node);
-    QCOMPARE(relay()->watchNode("io"), node);
-    QVERIFY(relay()->watchNode("io.di") != node);
-    QVERIFY(relay()->execCommand(nullptr, "io") != node);
-}
-
-void LinkDown::getAsksTheLinkBehindTheBus() {
+void RelayCalls::aNodeThatWasSentMayDie() {
     FakeLink link;
-    ModuleObject answer("answer");
-    link.answer = &answer;
-    brisk::standin::setBusLink(&link);
-    QCOMPARE(relay()->get(nullptr, "monitor.pers"), &answer);
-    QCOMPARE(relay()->get(nullptr, "a", "b"), &answer);
-    QCOMPARE(link.asked, (QStringList{"monitor.pers|", "a|b"}));
-    brisk::standin::setBusLink(nullptr);
-    QVERIFY(relay()->get(nullptr, "monitor.pers") != &answer);
+    {
+        ModuleObject node("select");
+        node.set(nullptr, "#0", "speed");
+        relay()->set(nullptr, "monitor.select", &node);
+    }
+    QCOMPARE(link.sentAs(Verb::Set), QStringList("monitor.select||[\"speed\"]"));
 }
 
-void LinkDown::aNullAnswerIsHandedOn() {
+void RelayCalls::withoutAnAnswerTheReplyIsEmpty() {
     FakeLink link;
-    brisk::standin::setBusLink(&link);
-    QVERIFY(!relay()->get(nullptr, "monitor.pers"));
+    link.answerWith(contentOf(QVariant(1)));
+    relay()->get(nullptr, "io");
+    link.answers = false;
+    QVERIFY(relay()->get(nullptr, "io")->isEmpty());
 }
 
-QTEST_APPLESS_MAIN(LinkDown)
+void RelayCalls::aFarSideThatAnswersNothingGivesNull() {
+    const FakeLink link;
+    QVERIFY(!relay()->get(nullptr, "io"));
+    QVERIFY(!relay()->execCommand(nullptr, "io"));
+    QVERIFY(!relay()->execPluginCommand(nullptr, "p", "s", 1));
+}
+
+void RelayCalls::manyCommandsOfOneNameUseOneNode() {
+    FakeLink link;
+    link.answerWith(contentOf(QVariant(1)));
+    const ModuleObject* first = relay()->execCommand(nullptr, "many");
+    for (int i = 0; i < 1000; ++i)
+        QCOMPARE(relay()->execCommand(nullptr, "many", i), first);
+    QCOMPARE(first->getInt(), 1);
+}
+
+QTEST_GUILESS_MAIN(RelayCalls)
 #include "tst_relay.moc"

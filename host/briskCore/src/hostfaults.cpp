@@ -1,0 +1,12 @@
+#include "brisk/hostfaults.h"
+
+namespace brisk {
+namespace standin {
+
+HostFaults& hostFaults() {
+    static HostFaults faults;
+    return faults;
+}
+
+} // namespace standin
+} // namespace brisk
