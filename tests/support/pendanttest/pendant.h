@@ -6,6 +6,7 @@
 #include "plugins/callguard.h"
 #include "plugins/pluginloader.h"
 #include "plugins/pluginsession.h"
+#include "plugins/thrownhandler.h"
 
 #include "helm/messagelist.h"
 #include "kite/pluginbase.h"
@@ -107,6 +108,7 @@ private:
 
     WorkingFolder m_folder;
     LogWatch m_log;
+    pendant::ThrownHandler m_thrownHandler;
     Frame m_frame;
     pendant::CallGuard m_guard;
     pendant::PluginLoader m_loader;

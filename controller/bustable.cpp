@@ -1,0 +1,74 @@
+#include "controller/bustable.h"
+
+using brisk::standin::contentOf;
+
+namespace controller {
+
+namespace {
+
+// ModuleObject::set() alone makes the next item of a list.
+brisk::ModuleObject* nodeMadeAt(brisk::ModuleObject* value, const QString& subKey) {
+    if (brisk::ModuleObject* node = value->r(subKey, true))
+        return node;
+    value->set(nullptr, subKey, QVariant(), false);
+    return value->r(subKey);
+}
+
+} // namespace
+
+BusTable::BusTable(QObject* parent) : QObject(parent) {}
+
+void BusTable::define(const QString& key, const QVariant& start) {
+    defineContent(key, contentOf(start));
+}
+
+void BusTable::defineContent(const QString& key, const Content& start) {
+    m_checks.remove(key);
+    m_values.insert(key, copied(start));
+    announce(key);
+}
+
+void BusTable::onCommand(const QString& key, const CommandHandler& handler) {
+    if (handler)
+        m_commands.insert(key, handler);
+    else
+        m_commands.remove(key);
+}
+
+void BusTable::onSet(const QString& key, const SetCheck& check) {
+    if (check)
+        m_checks.insert(key, check);
+    else
+        m_checks.remove(key);
+}
+
+bool BusTable::write(const QString& key, const QString& subKey, const Content& value) {
+    const Content whole = m_values.value(key);
+    brisk::ModuleObject* node = whole ? nodeMadeAt(whole.get(), subKey) : nullptr;
+    if (!node)
+        return false;
+    node->copyFrom(value.get());
+    announce(key);
+    return true;
+}
+
+bool BusTable::write(const QString& key, const QVariant& value) {
+    return write(key, QString(), contentOf(value));
+}
+
+Content BusTable::value(const QString& key) const {
+    return contentOf(m_values.value(key).get());
+}
+
+bool BusTable::isWatched(const QString& key, const QObject* watcher) const {
+    const auto watchers = m_watchers.constFind(key);
+    return watchers != m_watchers.constEnd() && watchers->contains(watcher);
+}
+
+void BusTable::announce(const QString& key) {
+    if (isWatched(key))
+        emit delivered(key, value(key));
+    emit written(key);
+}
+
+} // namespace controller

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "controller/changingvalues.h"
+
+#include <QJsonArray>
+#include <QJsonValue>
+#include <QMap>
+#include <QString>
+#include <QVector>
+
+namespace controller {
+
+/// What a cell file says.
+struct Cell {
+    /// What comes out of a plugin command whose data begins with `when`.
+    struct Rule {
+        QJsonValue when;
+        QJsonArray answer;
+    };
+
+    QMap<QString, QJsonValue> values; ///< start values of bus keys
+    QMap<QString, ChangingValues::Course> courses;
+    QMap<QString, QJsonValue> commands; ///< answers of bus commands
+    QMap<QString, QJsonValue> requests; ///< answers of requests
+    QVector<Rule> rules;                ///< the first that fits holds
+};
+
+} // namespace controller

@@ -1,0 +1,104 @@
+#include "controller/cellfile.h"
+
+#include "controller/cellreader.h"
+
+#include <QFile>
+#include <QJsonDocument>
+
+using brisk::standin::contentOf;
+using brisk::standin::jsonOf;
+
+// Q_INIT_RESOURCE must not stand in a namespace.
+static void useResources() {
+    Q_INIT_RESOURCE(controller);
+}
+
+namespace controller {
+
+namespace {
+
+bool fail(QString* error, const QString& name, const QString& text) {
+    *error = QStringLiteral("The cell file %1 is no good: %2").arg(name, text);
+    return false;
+}
+
+QString whyNoObject(const QByteArray& text, const QJsonParseError& error) {
+    if (error.error == QJsonParseError::NoError)
+        return QStringLiteral("It must hold an object: {\"bus\": {...}}.");
+    const QByteArray before = text.left(error.offset);
+    const int line = before.count('\n') + 1;
+    const int column = before.size() - before.lastIndexOf('\n');
+    return QStringLiteral("Line %1, column %2 is not JSON: %3.").arg(line).arg(column).arg(error.errorString());
+}
+
+std::function<Content(const Content&)> answering(const QJsonValue& answer) {
+    return [answer](const Content&) { return contentOf(QVariant(answer)); };
+}
+
+QJsonValue firstOf(const QJsonValue& data) {
+    return data.isArray() ? data.toArray().first() : data;
+}
+
+PluginCommands::Handler following(const QVector<Cell::Rule>& rules) {
+    return [rules](const QString&, const Content& data) {
+        const QJsonValue first = firstOf(jsonOf(data));
+        for (const Cell::Rule& rule : rules) {
+            if (rule.when == first)
+                return contentOf(QVariant(rule.answer));
+        }
+        return data;
+    };
+}
+
+// As it looks after its way over the bus, which leaves empty members out.
+QVector<Cell::Rule> asSent(QVector<Cell::Rule> rules) {
+    for (Cell::Rule& rule : rules)
+        rule.when = jsonOf(contentOf(QVariant(rule.when)));
+    return rules;
+}
+
+void take(const Cell& cell, VirtualController* controller) {
+    for (auto entry = cell.values.constBegin(); entry != cell.values.constEnd(); ++entry) {
+        controller->changing()->remove(entry.key());
+        controller->bus()->define(entry.key(), entry.value());
+    }
+    for (auto entry = cell.courses.constBegin(); entry != cell.courses.constEnd(); ++entry)
+        controller->changing()->add(entry.key(), entry.value());
+    for (auto entry = cell.commands.constBegin(); entry != cell.commands.constEnd(); ++entry)
+        controller->bus()->onCommand(entry.key(), answering(entry.value()));
+    for (auto entry = cell.requests.constBegin(); entry != cell.requests.constEnd(); ++entry)
+        controller->requests()->onRequest(entry.key(), answering(entry.value()));
+    if (!cell.rules.isEmpty())
+        controller->pluginCommands()->setHandler(following(asSent(cell.rules)));
+}
+
+} // namespace
+
+QString CellFile::defaultPath() {
+    useResources();
+    return QStringLiteral(":/controller/cells/default.json");
+}
+
+bool CellFile::load(const QString& path, VirtualController* controller, QString* error) {
+    useResources();
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        *error = QStringLiteral("The cell file %1 cannot be read: %2.").arg(path, file.errorString());
+        return false;
+    }
+    return loadText(file.readAll(), path, controller, error);
+}
+
+bool CellFile::loadText(const QByteArray& text, const QString& name, VirtualController* controller, QString* error) {
+    QJsonParseError parseError;
+    const QJsonDocument document = QJsonDocument::fromJson(text, &parseError);
+    if (!document.isObject())
+        return fail(error, name, whyNoObject(text, parseError));
+    CellReader reader;
+    if (!reader.read(document.object()))
+        return fail(error, name, reader.error());
+    take(reader.cell(), controller);
+    return true;
+}
+
+} // namespace controller

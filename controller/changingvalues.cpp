@@ -1,0 +1,56 @@
+#include "controller/changingvalues.h"
+
+#include <QtMath>
+
+#include <cmath>
+
+namespace controller {
+
+ChangingValues::ChangingValues(const Clock* clock, BusTable* bus, QObject* parent)
+    : QObject(parent), m_clock(clock), m_bus(bus) {
+    connect(clock, &Clock::advanced, this, [this](qint64 nowMs) { advance(nowMs); });
+}
+
+void ChangingValues::add(const QString& key, Course course) {
+    const QVariant present = course(m_clock->nowMs());
+    m_bus->define(key, present);
+    m_bus->onSet(key, [key](const QString&, const Content&) {
+        return QStringLiteral("The bus key \"%1\" changes by itself and cannot be set.").arg(key);
+    });
+    m_courses.insert(key, {std::move(course), present});
+}
+
+void ChangingValues::remove(const QString& key) {
+    if (m_courses.remove(key) > 0)
+        m_bus->onSet(key, nullptr);
+}
+
+void ChangingValues::advance(qint64 nowMs) {
+    // Who is told of a new value may add and remove courses.
+    const QStringList keys = m_courses.keys();
+    for (const QString& key : keys) {
+        const auto entry = m_courses.find(key);
+        if (entry == m_courses.end())
+            continue;
+        const QVariant next = entry->course(nowMs);
+        if (next == entry->present)
+            continue;
+        entry->present = next;
+        m_bus->write(key, next);
+    }
+}
+
+ChangingValues::Course wave(double min, double max, qint64 periodMs) {
+    return [=](qint64 nowMs) {
+        const qint64 everyMs = 100;
+        const double turns = double(nowMs / everyMs * everyMs % periodMs) / double(periodMs);
+        const double value = min + (max - min) * (1 - std::cos(2 * M_PI * turns)) / 2;
+        return QVariant(std::round(value * 100) / 100);
+    };
+}
+
+ChangingValues::Course counter(int start, qint64 everyMs) {
+    return [=](qint64 nowMs) { return QVariant(start + int(nowMs / everyMs)); };
+}
+
+} // namespace controller

@@ -1,0 +1,40 @@
+#include "controller/embedded.h"
+
+#include "brisk/channel.h"
+
+#include <QTimer>
+
+using brisk::standin::Channel;
+
+namespace controller {
+
+namespace {
+
+const int controllerLinkAfterMs = 50;
+
+void takeOut(Channel* channel, const EmbeddedLink* link) {
+    if (channel->link() == link)
+        channel->setLink(nullptr);
+}
+
+} // namespace
+
+Embedded::Embedded(QObject* parent) : QObject(parent) {
+    Channel::bus()->setLink(&m_bus);
+    Channel::controller()->setLink(&m_controllerLink);
+}
+
+Embedded::~Embedded() {
+    takeOut(Channel::controller(), &m_controllerLink);
+    takeOut(Channel::bus(), &m_bus);
+}
+
+void Embedded::start(int delayMs) {
+    m_controller.clock()->runByItself(true);
+    QTimer::singleShot(delayMs, this, [this] {
+        QTimer::singleShot(controllerLinkAfterMs, this, [this] { m_controllerLink.setUp(true); });
+        m_bus.setUp(true);
+    });
+}
+
+} // namespace controller

@@ -1,0 +1,118 @@
+#include "controller/embeddedlink.h"
+
+#include <QThread>
+
+#include <algorithm>
+
+using brisk::standin::Answer;
+
+namespace controller {
+
+EmbeddedLink::EmbeddedLink(VirtualController* controller, QObject* parent) : Link(parent), m_controller(controller) {
+    m_wall.start();
+    m_timer.setSingleShot(true);
+    m_timer.setTimerType(Qt::PreciseTimer);
+    connect(&m_timer, &QTimer::timeout, this, &EmbeddedLink::handOut);
+    connect(controller, &VirtualController::delivered, this, &EmbeddedLink::passDelivery);
+    connect(controller, &VirtualController::noticed, this, &EmbeddedLink::passNotice);
+}
+
+EmbeddedLink::~EmbeddedLink() {
+    m_controller->bus()->forgetWatches(this);
+}
+
+void EmbeddedLink::setUp(bool up) {
+    if (up == m_isUp)
+        return;
+    m_isUp = up;
+    ++m_connection;
+    m_outbox.clear();
+    m_timer.stop();
+    if (!up)
+        m_controller->bus()->forgetWatches(this);
+    emit upChanged(up);
+}
+
+void EmbeddedLink::send(const Message& message) {
+    if (!m_isUp)
+        return;
+    const bool wasHandling = m_isHandling;
+    m_isHandling = true;
+    const quint64 connection = m_connection;
+    const Content content = m_controller->handle(message, this);
+    m_isHandling = wasHandling;
+    if (message.wantsAnswer && m_fault != Fault::Lost && connection == m_connection)
+        put({message.id, faulty(content)});
+}
+
+// An answer that is due later than the caller waits does not come, however late the thread wakes up.
+bool EmbeddedLink::receive(Answer* answer, int timeoutMs) {
+    const qint64 deadlineMs = m_wall.elapsed() + qMax(0, timeoutMs);
+    const bool comes = !m_outbox.isEmpty() && m_outbox.first().atMs <= deadlineMs;
+    sleepUntil(comes ? m_outbox.first().atMs : deadlineMs);
+    return comes && takeDue(answer);
+}
+
+void EmbeddedLink::sleepUntil(qint64 atMs) const {
+    for (qint64 leftMs = atMs - m_wall.elapsed(); leftMs > 0; leftMs = atMs - m_wall.elapsed())
+        QThread::msleep(static_cast<unsigned long>(leftMs));
+}
+
+void EmbeddedLink::put(const Answer& answer) {
+    const Due due{m_wall.elapsed() + m_delayMs, answer};
+    const auto later = [](const Due& a, const Due& b) { return a.atMs < b.atMs; };
+    m_outbox.insert(std::upper_bound(m_outbox.begin(), m_outbox.end(), due, later), due);
+    startTimer();
+}
+
+Content EmbeddedLink::faulty(const Content& content) const {
+    if (m_fault == Fault::Null)
+        return nullptr;
+    if (m_fault == Fault::Malformed)
+        return brisk::standin::contentOf(QVariant(QStringLiteral("?")));
+    return content;
+}
+
+bool EmbeddedLink::takeDue(Answer* answer) {
+    if (m_outbox.isEmpty() || m_outbox.first().atMs > m_wall.elapsed())
+        return false;
+    *answer = m_outbox.takeFirst().answer;
+    startTimer();
+    return true;
+}
+
+void EmbeddedLink::handOut() {
+    Answer answer;
+    while (takeDue(&answer))
+        emit answered(answer);
+    startTimer();
+}
+
+void EmbeddedLink::startTimer() {
+    if (m_outbox.isEmpty())
+        return m_timer.stop();
+    m_timer.start(int(qMax<qint64>(0, m_outbox.first().atMs - m_wall.elapsed())));
+}
+
+// What was told before the link went down is lost with it.
+void EmbeddedLink::later(std::function<void()> tell) {
+    QMetaObject::invokeMethod(
+        this,
+        [this, tell, connection = m_connection] {
+            if (connection == m_connection)
+                tell();
+        },
+        Qt::QueuedConnection);
+}
+
+void EmbeddedLink::passDelivery(const QString& key, const Content& content) {
+    if (m_isUp && m_controller->bus()->isWatched(key, this))
+        later([this, key, content] { emit delivered(key, content); });
+}
+
+void EmbeddedLink::passNotice(const QString& text) {
+    if (m_isUp && m_isHandling)
+        later([this, text] { emit noticed(text); });
+}
+
+} // namespace controller

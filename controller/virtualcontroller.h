@@ -1,0 +1,56 @@
+#pragma once
+
+#include "controller/bustable.h"
+#include "controller/changingvalues.h"
+#include "controller/clock.h"
+#include "controller/content.h"
+#include "controller/plugincommands.h"
+#include "controller/requesttable.h"
+
+#include <QObject>
+#include <QSet>
+#include <QString>
+
+namespace controller {
+
+/// A controller without a robot: it answers what comes over the bus and the controller link from its tables. What they
+/// do not hold it does not know. Its own key "controller.uptime" counts the seconds of its clock.
+///
+/// It lives on one thread, the user-interface thread of the pendant.
+class VirtualController : public QObject {
+    Q_OBJECT
+
+public:
+    explicit VirtualController(QObject* parent = nullptr);
+    ~VirtualController() override;
+
+    Clock* clock() { return &m_clock; }
+    BusTable* bus() { return &m_bus; }
+    ChangingValues* changing() { return &m_changing; }
+    RequestTable* requests() { return &m_requests; }
+    PluginCommands* pluginCommands() { return &m_pluginCommands; }
+
+    /// Carries `message` out and gives the answer, also when the message wants none. `asker` is who watches when the
+    /// message is a watch; null is an asker like any other.
+    Content handle(const Message& message, const QObject* asker = nullptr);
+
+signals:
+    /// A watched bus key was written.
+    void delivered(const QString& key, const brisk::standin::Content& content);
+    /// The message that is being handled was refused; a sentence for the people at the pendant. The same sentence is
+    /// told once: a plugin may ask ten times a second.
+    void noticed(const QString& text);
+
+private:
+    Content handleExecute(const Message& message);
+    void tellOnce(const QString& text);
+
+    Clock m_clock;
+    BusTable m_bus;
+    ChangingValues m_changing{&m_clock, &m_bus};
+    RequestTable m_requests;
+    PluginCommands m_pluginCommands;
+    QSet<QString> m_told;
+};
+
+} // namespace controller

@@ -1,0 +1,113 @@
+#include "controller/changingvalues.h"
+
+#include "contents.h"
+
+#include <QTest>
+
+#include <memory>
+
+using controller::BusTable;
+using controller::ChangingValues;
+using controller::Clock;
+using controller::Content;
+
+class TestChangingValues : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init() {
+        clock.reset(new Clock);
+        bus.reset(new BusTable);
+        changing.reset(new ChangingValues(clock.get(), bus.get()));
+        delivered.clear();
+        connect(bus.get(), &BusTable::delivered, this,
+                [this](const QString& key, const Content& value) { delivered << key + '=' + text(value); });
+    }
+
+    void aWaveGoesUpAndDown_data() {
+        QTest::addColumn<qint64>("ms");
+        QTest::addColumn<double>("value");
+        QTest::newRow("start") << qint64(0) << 20.0;
+        QTest::newRow("quarter") << qint64(1000) << 25.0;
+        QTest::newRow("half") << qint64(2000) << 30.0;
+        QTest::newRow("between two values") << qint64(2099) << 30.0;
+        QTest::newRow("three quarters") << qint64(3000) << 25.0;
+        QTest::newRow("end") << qint64(4000) << 20.0;
+        QTest::newRow("much later") << qint64(4000000 + 2000) << 30.0;
+        QTest::newRow("two places") << qint64(500) << 21.46;
+    }
+
+    void aWaveGoesUpAndDown() {
+        QFETCH(qint64, ms);
+        QFETCH(double, value);
+        QCOMPARE(controller::wave(20, 30, 4000)(ms).toDouble(), value);
+    }
+
+    void aWaveBringsATenthOfASecondEach() {
+        bus->watch(this, "t", true);
+        changing->add("t", controller::wave(0, 100, 4000));
+        delivered.clear();
+        clock->step(1000);
+        QCOMPARE(delivered.size(), 10);
+        QCOMPARE(delivered.last(), QString("t=50"));
+    }
+
+    void aCounterCounts() {
+        bus->watch(this, "n", true);
+        changing->add("n", controller::counter(7, 5000));
+        QCOMPARE(text(bus->get("n", "")), QString("7"));
+        clock->step(4980);
+        QCOMPARE(delivered, QStringList("n=7"));
+        clock->step(20);
+        QCOMPARE(delivered, (QStringList{"n=7", "n=8"}));
+        clock->step(10000);
+        QCOMPARE(delivered, (QStringList{"n=7", "n=8", "n=9", "n=10"}));
+    }
+
+    void aCourseBeginsWhereTheClockStands() {
+        clock->step(5000);
+        changing->add("n", controller::counter(0, 1000));
+        QCOMPARE(text(bus->get("n", "")), QString("5"));
+    }
+
+    void itCannotBeSetFromOutside() {
+        changing->add("n", controller::counter(0, 1000));
+        const QString reason = refusalOf(bus->set("n", "", content("9")));
+        QVERIFY2(reason.contains("\"n\" changes by itself"), qPrintable(reason));
+        QCOMPARE(text(bus->get("n", "")), QString("0"));
+    }
+
+    void whatIsRemovedStandsAndCanBeSet() {
+        changing->add("n", controller::counter(0, 1000));
+        clock->step(1000);
+        changing->remove("n");
+        QVERIFY(!changing->contains("n"));
+        clock->step(1000);
+        QCOMPARE(text(bus->get("n", "")), QString("1"));
+        QVERIFY(!bus->set("n", "", content("9")));
+        changing->remove("n");
+        changing->remove("none");
+    }
+
+    void whoIsToldMayRemoveCourses() {
+        changing->add("a", controller::counter(0, 1000));
+        changing->add("b", controller::counter(0, 1000));
+        int written = 0;
+        connect(bus.get(), &BusTable::written, changing.get(), [&] {
+            ++written;
+            changing->remove("a");
+            changing->remove("b");
+        });
+        clock->step(2000);
+        QCOMPARE(written, 1);
+    }
+
+private:
+    std::unique_ptr<Clock> clock;
+    std::unique_ptr<BusTable> bus;
+    std::unique_ptr<ChangingValues> changing;
+    QStringList delivered;
+};
+
+QTEST_GUILESS_MAIN(TestChangingValues)
+#include "tst_changingvalues.moc"

@@ -1,0 +1,96 @@
+#include "controller/embedded.h"
+
+#include "brisk/channel.h"
+
+#include <QTest>
+
+#include <memory>
+
+using brisk::standin::Channel;
+using controller::Embedded;
+
+class TestEmbedded : public QObject {
+    Q_OBJECT
+
+private slots:
+    void itStandsBehindBothChannelsWithTheLinksDown() {
+        Embedded embedded;
+        QCOMPARE(Channel::bus()->link(), embedded.bus());
+        QCOMPARE(Channel::controller()->link(), embedded.controllerLink());
+        QVERIFY(!Channel::bus()->isUp());
+        QVERIFY(!Channel::controller()->isUp());
+        QVERIFY(!embedded.controller()->clock()->runsByItself());
+        QTest::qWait(60);
+        QCOMPARE(embedded.controller()->clock()->nowMs(), 0);
+    }
+
+    void destroyedItIsTakenOut() {
+        {
+            Embedded embedded;
+            embedded.bus()->setUp(true);
+            embedded.controllerLink()->setUp(true);
+            QVERIFY(Channel::bus()->isUp());
+        }
+        QVERIFY(!Channel::bus()->link());
+        QVERIFY(!Channel::controller()->link());
+        QVERIFY(!Channel::bus()->isUp());
+        QVERIFY(!Channel::controller()->isUp());
+    }
+
+    void theOneThatTookItsPlaceStays() {
+        std::unique_ptr<Embedded> first(new Embedded);
+        Embedded second;
+        first.reset();
+        QCOMPARE(Channel::bus()->link(), second.bus());
+        QCOMPARE(Channel::controller()->link(), second.controllerLink());
+    }
+
+    void startedTheBusComesUpAndThenTheControllerLink() {
+        Embedded embedded;
+        QStringList up;
+        connect(Channel::bus(), &Channel::upChanged, &embedded, [&] { up << "bus"; });
+        connect(Channel::controller(), &Channel::upChanged, &embedded, [&] { up << "controller"; });
+        embedded.start(30);
+        QVERIFY(embedded.controller()->clock()->runsByItself());
+        QVERIFY(!Channel::bus()->isUp());
+        QTRY_COMPARE(up, (QStringList{"bus", "controller"}));
+        QVERIFY(embedded.controller()->clock()->nowMs() >= 20);
+        disconnect(Channel::bus(), nullptr, &embedded, nullptr);
+        disconnect(Channel::controller(), nullptr, &embedded, nullptr);
+    }
+
+    void theLinksComeUpInEitherOrder() {
+        Embedded embedded;
+        embedded.controllerLink()->setUp(true);
+        QVERIFY(Channel::controller()->isUp());
+        QVERIFY(!Channel::bus()->isUp());
+        embedded.bus()->setUp(true);
+        QVERIFY(Channel::bus()->isUp());
+        embedded.controllerLink()->setUp(false);
+        QVERIFY(!Channel::controller()->isUp());
+        QVERIFY(Channel::bus()->isUp());
+    }
+
+    void bothLinksLeadToOneController() {
+        Embedded embedded;
+        embedded.bus()->setUp(true);
+        embedded.controllerLink()->setUp(true);
+        embedded.controller()->bus()->define("n", 0);
+        embedded.controller()->requests()->onRequest("count.up", [&](const controller::Content&) {
+            embedded.controller()->bus()->write("n", 1);
+            return nullptr;
+        });
+        controller::Message request;
+        request.verb = controller::Verb::Request;
+        request.key = "count.up";
+        QCOMPARE(Channel::controller()->ask(nullptr, request, 50).state, Channel::Reply::Answered);
+        controller::Message get;
+        get.key = "n";
+        const Channel::Reply reply = Channel::bus()->ask(nullptr, get, 50);
+        QVERIFY(reply.content);
+        QCOMPARE(reply.content->getInt(), 1);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestEmbedded)
+#include "tst_embedded.moc"

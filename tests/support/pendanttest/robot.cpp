@@ -1,0 +1,49 @@
+#include "pendanttest/robot.h"
+
+#include "controller/cellfile.h"
+
+#include <QCoreApplication>
+
+using brisk::standin::Traffic;
+using brisk::standin::TrafficEntry;
+
+namespace pendanttest {
+
+Robot::Robot() {
+    QObject::connect(Traffic::instance(), &Traffic::recorded, &m_embedded,
+                     [this](const TrafficEntry& entry) { m_traffic << entry; });
+}
+
+void Robot::loadDefaultCell() {
+    QString error;
+    if (!controller::CellFile::load(controller::CellFile::defaultPath(), controller(), &error))
+        qFatal("%s", qPrintable(error));
+}
+
+void Robot::connectLinks() {
+    bus(true);
+    controllerLink(true);
+}
+
+void Robot::bus(bool up) {
+    m_embedded.bus()->setUp(up);
+    settle();
+}
+
+void Robot::controllerLink(bool up) {
+    m_embedded.controllerLink()->setUp(up);
+    settle();
+}
+
+void Robot::step(qint64 ms) {
+    controller()->clock()->step(ms);
+    settle();
+}
+
+// The answer to a question that nobody waits for takes a timer of the link's and then an event of the channel's.
+void Robot::settle() {
+    for (int round = 0; round < 3; ++round)
+        QCoreApplication::processEvents();
+}
+
+} // namespace pendanttest

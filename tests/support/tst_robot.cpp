@@ -1,0 +1,158 @@
+#include "pendanttest/robot.h"
+
+#include "brisk/relay.h"
+#include "helm/controllermanager.h"
+#include "helm/managerhelper.h"
+
+#include <QJsonObject>
+#include <QTest>
+
+using brisk::standin::TrafficEntry;
+using controller::Fault;
+using pendanttest::Robot;
+
+namespace {
+
+/// What was announced on the watched node of `key` while this lives.
+class Heard : public QObject {
+public:
+    explicit Heard(const QString& key) {
+        connect(relay()->watchNode(key), &brisk::ModuleObject::changed, this,
+                [this](const QVariant& value) { values << value; });
+    }
+
+    QVariantList values;
+};
+
+QStringList inShort(const QList<TrafficEntry>& traffic) {
+    QStringList lines;
+    for (const TrafficEntry& entry : traffic)
+        lines << entry.channel + ' ' + entry.kind + ' ' + entry.key;
+    return lines;
+}
+
+} // namespace
+
+// The controller that tests have behind both links.
+class TestRobot : public QObject {
+    Q_OBJECT
+
+private slots:
+    void theLinksAreDownAtFirst() {
+        Robot robot;
+        QCOMPARE(relay()->mobj()->c("connected")->getBool(true), false);
+        QVERIFY(!controllers()->controllerConnected());
+        robot.connectLinks();
+        QCOMPARE(relay()->mobj()->c("connected")->getBool(false), true);
+        QVERIFY(controllers()->controllerConnected());
+    }
+
+    void afterwardsTheLinksAreDownAgain() {
+        {
+            Robot robot;
+            robot.connectLinks();
+        }
+        QCOMPARE(relay()->mobj()->c("connected")->getBool(true), false);
+        QVERIFY(!controllers()->controllerConnected());
+    }
+
+    void eachLinkGoesUpAndDownByItself() {
+        Robot robot;
+        robot.controllerLink(true);
+        QVERIFY(controllers()->controllerConnected());
+        QVERIFY(!relay()->mobj()->c("connected")->getBool());
+        robot.bus(true);
+        QVERIFY(relay()->mobj()->c("connected")->getBool());
+        robot.controllerLink(false);
+        QVERIFY(!controllers()->controllerConnected());
+        QVERIFY(relay()->mobj()->c("connected")->getBool());
+    }
+
+    void theBusAnswersFromTheTables() {
+        Robot robot;
+        robot.controller()->bus()->define("io.do", QJsonObject{{"lamp", false}});
+        robot.connectLinks();
+        relay()->set(nullptr, "io.do", "lamp", true);
+        QCOMPARE(relay()->get(nullptr, "io.do")->c("lamp")->getBool(), true);
+        QCOMPARE(relay()->get(nullptr, "io.do", "lamp")->getBool(), true);
+    }
+
+    void theControllerAnswersRequests() {
+        Robot robot;
+        robot.controller()->requests()->onRequest("cell.state", [](const controller::Content&) {
+            return brisk::standin::contentOf(QVariant(QJsonObject{{"state", 3}}));
+        });
+        robot.connectLinks();
+        brisk::ModuleObject* answer = controllers()->execRequest("cell", "state", QJsonValue(), true, 50);
+        QVERIFY(answer);
+        QCOMPARE(answer->r("state") ? answer->r("state")->getInt() : -1, 3);
+    }
+
+    void settlingBringsTheAnswerThatNobodyWaitsFor() {
+        Robot robot;
+        robot.controller()->requests()->onRequest(
+            "cell.load", [](const controller::Content&) { return brisk::standin::contentOf(QVariant(7)); });
+        robot.connectLinks();
+        QVERIFY(controllers()->request("cell", "load", QJsonValue(), 1000));
+        QVERIFY(controllers()->cmdItemMobj("response", "cell.load")->isEmpty());
+        robot.settle();
+        QCOMPARE(controllers()->cmdItemMobj("response", "cell.load")->getInt(), 7);
+    }
+
+    void aStepReturnsWhenTheDeliveriesHaveArrived() {
+        Robot robot;
+        robot.connectLinks();
+        relay()->watch(this, "controller.uptime", true);
+        const Heard uptime("controller.uptime");
+        robot.step(999);
+        QCOMPARE(uptime.values, QVariantList());
+        robot.step(1);
+        QCOMPARE(uptime.values, QVariantList{1});
+        robot.step(2000);
+        QCOMPARE(uptime.values, (QVariantList{1, 2, 3}));
+        relay()->watch(this, "controller.uptime", false);
+        robot.step(1000);
+        QCOMPARE(uptime.values.size(), 3);
+    }
+
+    void watchesSurviveAReconnect() {
+        Robot robot;
+        relay()->watch(this, "controller.uptime", true);
+        robot.connectLinks();
+        const Heard uptime("controller.uptime");
+        robot.step(1000);
+        robot.bus(false);
+        robot.step(1000);
+        QCOMPARE(uptime.values, QVariantList{1});
+        robot.bus(true);
+        robot.step(1000);
+        QCOMPARE(uptime.values, (QVariantList{1, 3}));
+        relay()->watch(this, "controller.uptime", false);
+    }
+
+    void theTrafficIsKept() {
+        Robot robot;
+        robot.connectLinks();
+        robot.forgetTraffic();
+        relay()->get(nullptr, "controller.uptime");
+        QCOMPARE(inShort(robot.traffic()), (QStringList{"bus get controller.uptime", "bus answer controller.uptime"}));
+        relay()->get(nullptr, "none");
+        robot.settle();
+        QCOMPARE(robot.traffic().last().kind, QString("notice"));
+        robot.forgetTraffic();
+        QCOMPARE(robot.traffic().size(), 0);
+    }
+
+    void answersCanBeSpoilt() {
+        Robot robot;
+        robot.connectLinks();
+        robot.embedded()->bus()->setFault(Fault::Malformed);
+        QCOMPARE(relay()->get(nullptr, "controller.uptime")->getString(), QString("?"));
+    }
+
+private:
+    static helm::ControllerManager* controllers() { return helm::ManagerHelper::instance()->controllerManager(); }
+};
+
+QTEST_MAIN(TestRobot)
+#include "tst_robot.moc"
