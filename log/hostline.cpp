@@ -29,6 +29,9 @@ brisk::QFLog information(const QString& module) {
 QString pluginModule() {
     return QStringLiteral("<kite>");
 }
+QString interfaceModule() {
+    return QStringLiteral("<kite interfacemanager>");
+}
 
 } // namespace hostline
 } // namespace kite

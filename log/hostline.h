@@ -17,6 +17,8 @@ brisk::QFLog information(const QString& module);
 
 /// The source of the plugin class and its helpers.
 QString pluginModule();
+/// The source of the robot data interface and of the functions that address a plugin by name.
+QString interfaceModule();
 
 } // namespace hostline
 } // namespace kite

@@ -1,31 +1,14 @@
 #include "kite/interfaces.h"
-
-#include "brisk/buslink.h"
-#include "brisk/relay.h"
+#include "pendanttest/fakelink.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QPointer>
 #include <QTest>
 
-namespace {
-
-// Answers one key.
-class Answer : public brisk::standin::BusLink {
-public:
-    Answer(const QString& key, brisk::ModuleObject* answer) : m_key(key), m_answer(answer) {
-        brisk::standin::setBusLink(this);
-    }
-    ~Answer() override { brisk::standin::setBusLink(nullptr); }
-
-    brisk::ModuleObject* get(const QString& key, const QString&) override { return key == m_key ? m_answer : nullptr; }
-
-private:
-    QString m_key;
-    brisk::ModuleObject* m_answer;
-};
-
-} // namespace
+using brisk::standin::contentOf;
+using brisk::standin::Verb;
+using pendanttest::FakeLink;
 
 class TestInterfaces : public QObject {
     Q_OBJECT
@@ -57,36 +40,37 @@ private slots:
     }
 
     void theNetworkInterfaceGivesTheBussAnswerWithItsChildren() {
-        brisk::ModuleObject answer(QStringLiteral("answer"));
-        answer.set(nullptr, QStringLiteral("speed.max"), 250);
-        answer.set(nullptr, QStringLiteral("name"), QStringLiteral("left"));
-        const Answer link(QStringLiteral("robot.state"), &answer);
+        const QJsonObject answer{{"speed", QJsonObject{{"max", 250}}}, {"name", "left"}};
+        FakeLink link;
+        link.answerWith(contentOf(QVariant(answer)));
         kite::NetworkInterface network(nullptr);
-        const QJsonObject expected{{"speed", QJsonObject{{"max", 250}}}, {"name", "left"}};
-        QCOMPARE(network.get(QStringLiteral("robot.state")), QJsonValue(expected));
+        QCOMPARE(network.get(QStringLiteral("robot.state")), QJsonValue(answer));
+        QCOMPARE(link.sentAs(Verb::Get), QStringList{"robot.state||null"});
     }
 
     void aSingleValueComesAsItIs() {
-        brisk::ModuleObject answer(QStringLiteral("answer"));
-        answer.setValue(nullptr, 1.5);
-        const Answer link(QStringLiteral("robot.speed"), &answer);
+        FakeLink link;
+        link.answerWith(contentOf(QVariant(1.5)));
         QCOMPARE(kite::NetworkInterface(nullptr).get(QStringLiteral("robot.speed")), QJsonValue(1.5));
     }
 
     void aListComesAsAnArray() {
-        brisk::ModuleObject answer(QStringLiteral("answer"));
-        answer.setList(nullptr, {1, 2, 3});
-        const Answer link(QStringLiteral("robot.axes"), &answer);
+        FakeLink link;
+        link.answerWith(contentOf(QVariant(QJsonArray{1, 2, 3})));
         QCOMPARE(kite::NetworkInterface(nullptr).get(QStringLiteral("robot.axes")), QJsonValue(QJsonArray{1, 2, 3}));
     }
 
     void aMissingAnswerIsNull() {
-        const Answer link(QStringLiteral("robot.speed"), nullptr);
+        FakeLink link;
+        link.answerWith(nullptr);
         QCOMPARE(kite::NetworkInterface(nullptr).get(QStringLiteral("robot.speed")), QJsonValue());
+        QCOMPARE(link.sent.size(), 1);
     }
 
     void withTheLinkDownTheAnswerIsNull() {
-        brisk::standin::setBusLink(nullptr);
+        FakeLink link;
+        link.answerWith(contentOf(QVariant(1.5)));
+        link.setUp(false);
         QCOMPARE(kite::NetworkInterface(nullptr).get(QStringLiteral("robot.speed")), QJsonValue());
     }
 };

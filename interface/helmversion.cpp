@@ -1,0 +1,14 @@
+#include "interface/helmversion.h"
+
+#include "brisk/modulemanager.h"
+
+namespace kite {
+
+bool checkHelmVersion(const QString& prefix) {
+    const brisk::ModuleObject* node = m(QStringLiteral("helm.r.version"));
+    const QString version = node ? node->getString(QLatin1String("")) : QString();
+    // Qt has no null string start with an empty one.
+    return prefix.isEmpty() || version.startsWith(prefix);
+}
+
+} // namespace kite

@@ -1,0 +1,205 @@
+#include "kite/subscription.h"
+#include "links.h"
+
+#include <memory>
+#include <type_traits>
+#include <vector>
+
+using kite::Subscription;
+
+namespace {
+
+const QString state("robot.state");
+
+void announce(const QVariant& value) {
+    relay()->watchNode(state)->setValue(nullptr, value);
+}
+
+} // namespace
+
+class TestSubscription : public LinksTest {
+    Q_OBJECT
+
+private slots:
+    void init() {
+        begin();
+        m_heard.clear();
+    }
+    void cleanup() {
+        QCOMPARE(kiteInterface()->getConnectRelayKeyList("weld"), QStringList());
+        end();
+    }
+
+    void itFollowsItsKeyForAsLongAsItLives() {
+        {
+            const Subscription subscription("weld", state, hear("1"), "page");
+            QVERIFY(subscription.isActive());
+            QVERIFY(static_cast<bool>(subscription));
+            QCOMPARE(subscription.serviceKey(), state);
+            QCOMPARE(subscription.connectKey(), QString("page"));
+            announce("a");
+        }
+        announce("b");
+        QCOMPARE(m_heard, QStringList{"1:a"});
+        QCOMPARE(watches(), QStringList({"+" + state, "-" + state}));
+    }
+
+    void itIsMovedAndNotCopied() {
+        QVERIFY(!std::is_copy_constructible<Subscription>::value);
+        QVERIFY(!std::is_copy_assignable<Subscription>::value);
+        QVERIFY(std::is_nothrow_move_constructible<Subscription>::value);
+        QVERIFY(std::is_move_assignable<Subscription>::value);
+    }
+
+    void oneThatIsMadeOfNothingIsInactive() {
+        Subscription subscription;
+        QVERIFY(!subscription.isActive());
+        QVERIFY(!subscription);
+        QCOMPARE(subscription.serviceKey(), QString());
+        subscription.disconnect();
+        QCOMPARE(watches(), QStringList());
+    }
+
+    void oneThatIsRefusedIsInactiveAndLeavesTheOtherAlone() {
+        const Subscription first("weld", state, hear("1"), "page");
+        {
+            const Subscription second("weld", "robot.mode", hear("2"), "page");
+            QVERIFY(!second.isActive());
+            QCOMPARE(second.serviceKey(), QString("robot.mode"));
+        }
+        announce("a");
+        QCOMPARE(m_heard, QStringList{"1:a"});
+        QCOMPARE(watches(), QStringList{"+" + state});
+    }
+
+    void oneWithoutACallbackIsInactive() {
+        const Subscription subscription("weld", state, nullptr, "page");
+        QVERIFY(!subscription.isActive());
+        QCOMPARE(watches(), QStringList());
+        announce("a");
+    }
+
+    void oneWhoseKeyCannotBeFollowedIsInactive() {
+        brisk::standin::hostFaults().nullWatchNodes = true;
+        const Subscription subscription("weld", state, hear("1"), "page");
+        QVERIFY(!subscription.isActive());
+    }
+
+    void itCanBeEndedEarlyAndAgain() {
+        Subscription subscription("weld", state, hear("1"), "page");
+        subscription.disconnect();
+        QVERIFY(!subscription.isActive());
+        QCOMPARE(subscription.serviceKey(), state);
+        QCOMPARE(subscription.connectKey(), QString("page"));
+        subscription.disconnect();
+        announce("a");
+        QCOMPARE(m_heard, QStringList());
+        QCOMPARE(watches(), QStringList({"+" + state, "-" + state}));
+    }
+
+    void oneThatHasEndedLeavesItsSuccessorAlone() {
+        Subscription first("weld", state, hear("1"), "page");
+        first.disconnect();
+        const Subscription second("weld", state, hear("2"), "page");
+        QVERIFY(second.isActive());
+        first.disconnect();
+        first = Subscription();
+        announce("a");
+        QCOMPARE(m_heard, QStringList{"2:a"});
+    }
+
+    void movingKeepsTheSubscription() {
+        Subscription first("weld", state, hear("1"), "page");
+        {
+            const Subscription second(std::move(first));
+            QVERIFY(second.isActive());
+            QCOMPARE(second.serviceKey(), state);
+            QCOMPARE(second.connectKey(), QString("page"));
+            QVERIFY(!first.isActive());
+            announce("a");
+        }
+        announce("b");
+        QCOMPARE(m_heard, QStringList{"1:a"});
+        QCOMPARE(watches(), QStringList({"+" + state, "-" + state}));
+    }
+
+    void assigningEndsTheFormerOne() {
+        Subscription subscription("weld", state, hear("1"), "1");
+        subscription = Subscription("weld", state, hear("2"), "2");
+        QVERIFY(subscription.isActive());
+        QCOMPARE(subscription.connectKey(), QString("2"));
+        QCOMPARE(kiteInterface()->getConnectRelayKeyList("weld"), QStringList{"2"});
+        announce("a");
+        QCOMPARE(m_heard, QStringList{"2:a"});
+        QCOMPARE(watches(), QStringList{"+" + state});
+    }
+
+    void assigningToItselfChangesNothing() {
+        Subscription subscription("weld", state, hear("1"), "page");
+        Subscription& same = subscription;
+        subscription = std::move(same);
+        QVERIFY(subscription.isActive());
+        QCOMPARE(subscription.serviceKey(), state);
+        announce("a");
+        QCOMPARE(m_heard, QStringList{"1:a"});
+    }
+
+    void manyLiveInAVector() {
+        std::vector<Subscription> subscriptions;
+        for (int i = 0; i < 100; ++i)
+            subscriptions.emplace_back("weld", state, hear(QString::number(i)), QString::number(i));
+        subscriptions.erase(subscriptions.begin() + 1, subscriptions.end() - 1);
+        announce("a");
+        QCOMPARE(m_heard, QStringList({"0:a", "99:a"}));
+    }
+
+    void itMayBeDestroyedInItsOwnCallback() {
+        const auto held = std::make_shared<QString>("alive");
+        std::unique_ptr<Subscription> subscription;
+        subscription = std::make_unique<Subscription>(
+            "weld", state,
+            [this, held, &subscription](const QVariant&) {
+                subscription.reset();
+                m_heard << *held;
+            },
+            "page");
+        const Subscription later("weld", state, hear("later"), "later");
+        announce("a");
+        announce("b");
+        QCOMPARE(m_heard, QStringList({"alive", "later:a", "later:b"}));
+        QCOMPARE(held.use_count(), 1L);
+    }
+
+    void itMayBeReplacedInItsOwnCallback() {
+        Subscription subscription;
+        subscription = Subscription(
+            "weld", state,
+            [&](const QVariant&) {
+                subscription.disconnect();
+                subscription = Subscription("weld", state, hear("new"), "page");
+            },
+            "page");
+        announce("a");
+        QCOMPARE(m_heard, QStringList());
+        announce("b");
+        QCOMPARE(m_heard, QStringList{"new:b"});
+    }
+
+    void itDoesNotKnowThatSomebodyElseEndedIt() {
+        const Subscription subscription("weld", state, hear("1"), "page");
+        unsubscribe("weld", state, "page");
+        announce("a");
+        QCOMPARE(m_heard, QStringList());
+        QVERIFY(subscription.isActive());
+    }
+
+private:
+    std::function<void(const QVariant&)> hear(const QString& who) {
+        return [this, who](const QVariant& value) { m_heard << who + ":" + value.toString(); };
+    }
+
+    QStringList m_heard;
+};
+
+QTEST_GUILESS_MAIN(TestSubscription)
+#include "tst_subscription.moc"
