@@ -15,6 +15,7 @@ namespace {
 const QString plugins = QStringLiteral("plugins");
 const QString tour = QStringLiteral("tour");
 const QString work = QStringLiteral("work");
+const QString cell = QStringLiteral("cell");
 const QString size = QStringLiteral("size");
 const QString languageOption = QStringLiteral("language");
 const QString themeOption = QStringLiteral("theme");
@@ -39,6 +40,8 @@ Options OptionReader::read(const QStringList& arguments) {
         {plugins, tr("Load the plugins (*.so) of this folder. May be given several times."), tr("folder")},
         {tour, tr("Walk all pages, leave pictures and a transcript in this folder, and end."), tr("folder")},
         {work, tr("The folder in which the pendant keeps logs, settings and projects."), tr("folder")},
+        {cell, tr("The cell that the virtual controller plays, a JSON file; without it the one that is built in."),
+         tr("file")},
         {size, tr("Size of the window in pixels, 800x480 or more."), QStringLiteral("WxH"), QStringLiteral("1280x800")},
         {languageOption, tr("Language: %1.").arg(Language::codes().join(QStringLiteral(", "))), tr("code")},
         {themeOption, tr("Appearance: %1.").arg(Theme::names().join(QStringLiteral(", "))), tr("name")},
@@ -58,6 +61,8 @@ Options OptionReader::read(const QStringList& arguments) {
         options.tourFolder = absolute(parser.value(tour));
     options.workFolder = parser.isSet(work) ? absolute(parser.value(work))
                                             : QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    if (parser.isSet(cell))
+        options.cellFile = absolute(parser.value(cell));
     options.size = sizeOf(parser.value(size));
     options.language = parser.value(languageOption);
     options.theme = parser.value(themeOption);

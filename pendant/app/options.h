@@ -12,6 +12,7 @@ struct Options {
     QStringList pluginFolders; ///< absolute paths
     QString tourFolder;        ///< absolute path; empty for no tour
     QString workFolder;        ///< absolute path
+    QString cellFile;          ///< absolute path; empty for the cell that is built in
     QSize size{1280, 800};     ///< of the window in pixels
     QString language;          ///< empty for what was chosen last
     QString theme;             ///< empty for what was chosen last

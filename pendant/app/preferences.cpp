@@ -28,5 +28,11 @@ QString Preferences::language() {
 void Preferences::setLanguage(const QString& code) {
     write(QStringLiteral("pendant.language"), code);
 }
+QByteArray Preferences::dockGeometry() {
+    return QByteArray::fromBase64(read(QStringLiteral("pendant.dock"), QString()).toLatin1());
+}
+void Preferences::setDockGeometry(const QByteArray& geometry) {
+    write(QStringLiteral("pendant.dock"), QString::fromLatin1(geometry.toBase64()));
+}
 
 } // namespace pendant

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 namespace pendant {
@@ -11,6 +12,9 @@ public:
     static void setTheme(const QString& name);
     static QString language();
     static void setLanguage(const QString& code);
+    /// Where the developer dock stood; empty when it never did.
+    static QByteArray dockGeometry();
+    static void setDockGeometry(const QByteArray& geometry);
 };
 
 } // namespace pendant

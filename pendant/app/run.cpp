@@ -1,6 +1,9 @@
 #include "run.h"
 
 #include "application.h"
+#include "controller/cellfile.h"
+#include "controller/embedded.h"
+#include "developer/dockswitch.h"
 #include "frame/keycolumn.h"
 #include "frame/pendantwindow.h"
 #include "helm/messagelist.h"
@@ -10,6 +13,7 @@
 #include "plugins/callguard.h"
 #include "plugins/pluginloader.h"
 #include "plugins/pluginsession.h"
+#include "plugins/thrownhandler.h"
 #include "preferences.h"
 #include "tour/tour.h"
 
@@ -49,18 +53,33 @@ void connectSettings(Application& application, PendantWindow& window, SettingsPa
     });
 }
 
+bool loadCell(const Options& options, controller::Embedded& embedded) {
+    const QString path = options.cellFile.isEmpty() ? controller::CellFile::defaultPath() : options.cellFile;
+    QString error;
+    if (controller::CellFile::load(path, embedded.controller(), &error))
+        return true;
+    std::fprintf(stderr, "%s\n", qPrintable(error));
+    return false;
+}
+
 } // namespace
 
 int run(Application& application, const Options& options) {
     const Theme theme = themeFor(options);
     application.setLanguage(options.language.isEmpty() ? Preferences::language() : options.language);
     application.applyTheme(theme);
+    // The first of all: it goes when nobody can ask it any more.
+    controller::Embedded embedded;
+    if (!loadCell(options, embedded))
+        return 2;
+    const ThrownHandler thrownHandler;
     sayWhere();
 
     PendantWindow window(theme);
     window.resize(options.size);
     OwnPages pages(&window);
     connectSettings(application, window, pages.settings());
+    DockSwitch dock(&window);
 
     CallGuard guard;
     PluginLoader loader;
@@ -72,13 +91,15 @@ int run(Application& application, const Options& options) {
     window.show();
     session.start(window.center());
     pages.start()->follow(&session, &loader, options.pluginFolders);
+    embedded.start();
 
     int status = 0;
     if (options.tourFolder.isEmpty()) {
         status = application.exec();
     } else {
         Tour tour({&window, window.center(), window.sideBar(),
-                   [&](const QString& page) { return window.keys()->showPage(page); }, &loader, &session, &guard},
+                   [&](const QString& page) { return window.keys()->showPage(page); }, &dock, &loader, &session,
+                   &guard},
                   options.tourFolder);
         status = tour.run();
     }

@@ -1,6 +1,7 @@
 #include "pendantwindow.h"
 
 #include "clock.h"
+#include "developerbutton.h"
 #include "helm/messagelist.h"
 #include "keycolumn.h"
 #include "messageline.h"
@@ -15,6 +16,7 @@
 #include "tarp/rendering.h"
 
 #include <QGridLayout>
+#include <QShortcut>
 
 using helm::standin::MessageLevel;
 using helm::standin::MessageList;
@@ -49,6 +51,7 @@ void PendantWindow::setTheme(const Theme& theme) {
     tarp::standin::setRenderStyleSheet(controlStyleSheet(theme));
     m_navigation->setTheme(theme);
     m_statusItems->setTheme(theme);
+    m_developerButton->setTheme(theme);
     m_sideBarButton->setTheme(theme);
     m_sideBarHeader->setTheme(theme);
     m_keys->setTheme(theme);
@@ -63,10 +66,16 @@ void PendantWindow::showPage(const QString& key) {
                                  tr("There is no page “%1” to show.").arg(key));
 }
 
+void PendantWindow::setDeveloperOpen(bool open) {
+    m_developerButton->setChecked(open);
+}
+
 void PendantWindow::fillStatusBar() {
     auto* stretch = new QWidget(m_statusBar);
     m_statusBar->addItem(this, QStringLiteral("orca.body.statuspage.wgtStrech2"), stretch, 1);
     m_statusBar->addItem(this, QStringLiteral("orca.body.statuspage.clock"), new Clock(m_statusBar));
+    m_developerButton = new DeveloperButton(m_theme, m_statusBar);
+    m_statusBar->addItem(this, QStringLiteral("orca.body.statuspage.developer"), m_developerButton);
     m_sideBarButton = new SideBarButton(m_sideBar, m_sideBarHeader, m_theme, m_statusBar);
     m_statusBar->addItem(this, QStringLiteral("orca.body.statuspage.sidebar"), m_sideBarButton);
 }
@@ -110,6 +119,10 @@ void PendantWindow::connectParts() {
     connect(m_center, &tarp::CenterWidget::currentChanged, m_navigation, &Navigation::setCurrent);
     connect(m_navigation, &Navigation::chosen, this, &PendantWindow::open);
     connect(m_messageLine, &MessageLine::clicked, this, &PendantWindow::toggleMessages);
+    connect(m_developerButton, &DeveloperButton::clicked, this, &PendantWindow::developerAsked);
+    auto* key = new QShortcut(QKeySequence(Qt::Key_F12), this);
+    key->setContext(Qt::ApplicationShortcut);
+    connect(key, &QShortcut::activated, this, &PendantWindow::developerAsked);
 }
 
 void PendantWindow::open(const QString& title, const QString& nav) {

@@ -8,6 +8,7 @@
 
 namespace pendant {
 
+class DeveloperButton;
 class KeyColumn;
 class MessageLine;
 class Navigation;
@@ -36,9 +37,13 @@ public:
     void setTheme(const Theme& theme);
     /// Shows the centre page of `key`; says in the message list when there is none.
     void showPage(const QString& key);
+    /// Shows at its button whether the developer dock is open.
+    void setDeveloperOpen(bool open);
 
 signals:
     void themeChanged(const pendant::Theme& theme);
+    /// The developer dock is to be opened, or closed when it is open.
+    void developerAsked();
 
 private:
     void fillStatusBar();
@@ -58,6 +63,7 @@ private:
     KeyColumn* m_keys;
     MessageLine* m_messageLine;
     StatusItems* m_statusItems;
+    DeveloperButton* m_developerButton = nullptr;
     SideBarButton* m_sideBarButton = nullptr;
     QString m_pageBeforeMessages;
 };

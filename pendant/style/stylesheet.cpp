@@ -49,4 +49,8 @@ QString frameStyleSheet(const Theme& theme) {
     return controls(theme) + withTokens(resource(QStringLiteral("frame.qss")), theme);
 }
 
+QString developerStyleSheet(const Theme& theme) {
+    return withTokens(resource(QStringLiteral("developer.qss")), theme);
+}
+
 } // namespace pendant

@@ -16,4 +16,7 @@ QString controlStyleSheet(const Theme& theme);
 /// The same and the pendant's own frame and pages.
 QString frameStyleSheet(const Theme& theme);
 
+/// The developer dock: dense, for a mouse and a keyboard.
+QString developerStyleSheet(const Theme& theme);
+
 } // namespace pendant

@@ -1,5 +1,8 @@
 #include "tour.h"
 
+#include "developer/developerdock.h"
+#include "developer/dockswitch.h"
+#include "linkwait.h"
 #include "plugins/report.h"
 #include "press.h"
 #include "tourbuttons.h"
@@ -24,6 +27,7 @@ namespace pendant {
 namespace {
 
 const QLatin1String transcriptName("tour.md");
+const int linkTimeoutMs = 2000;
 
 QString nameOf(const QAbstractButton* button) {
     const QString text = button->text().remove(QLatin1Char('&'));
@@ -37,11 +41,15 @@ Tour::Tour(const TourStage& stage, const QString& folder) : m_stage(stage), m_fo
 int Tour::run() {
     m_folder.mkpath(QStringLiteral("."));
     clearFolder();
+    // From the start, so that it has something to show.
+    m_stage.dock->watch();
+    waitForLinks(linkTimeoutMs);
     settle();
     step(tr("The pendant has started."), QStringLiteral("start"), QString(), m_stage.window->grab());
     walkPages();
     walkSideBar();
     walkButtonPages();
+    walkDock();
     m_stage.session->stop();
     settle();
     note(tr("The plugins have been stopped."));
@@ -152,6 +160,20 @@ QString Tour::pluginOf(const QObject* module) const {
             return plugin.name;
     }
     return QString();
+}
+
+void Tour::walkDock() {
+    m_stage.dock->open();
+    DeveloperDock* dock = m_stage.dock->dock();
+    dock->resize(DeveloperDock::wantedSize());
+    const QStringList names = DeveloperDock::tabNames();
+    for (int tab = 0; tab < names.size(); ++tab) {
+        dock->showTab(tab);
+        settle();
+        step(tr("Developer dock, tab \"%1\".").arg(dock->tabTitle(tab)), QStringLiteral("developer"), names.at(tab),
+             dock->grab());
+    }
+    m_stage.dock->close();
 }
 
 void Tour::step(const QString& text, const QString& kind, const QString& subject, const QPixmap& picture) {

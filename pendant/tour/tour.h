@@ -18,6 +18,8 @@
 
 namespace pendant {
 
+class DockSwitch;
+
 /// The pendant as the tour walks through it. Nothing is owned; all of it outlives the tour.
 struct TourStage {
     QWidget* window;
@@ -25,6 +27,7 @@ struct TourStage {
     tarp::ExpandSideBar* sideBar;
     /// Turns the column of physical keys to that page; false when it cannot be shown.
     std::function<bool(const QString& page)> showButtonPage;
+    DockSwitch* dock;
     const PluginLoader* loader;
     PluginSession* session;
     const CallGuard* guard;
@@ -32,7 +35,8 @@ struct TourStage {
 
 /// Walks through the pendant without anyone at it: every page of the navigation, every side-bar page, every page of
 /// physical buttons, and on the plugins' pages the buttons for the tour (see isTourButton()), each of which is pressed,
-/// looked at and pressed again. Leaves a picture of each and the transcript tour.md in a folder.
+/// looked at and pressed again, and at last the tabs of the developer dock, which is open all the while. Leaves a
+/// picture of each and the transcript tour.md in a folder.
 ///
 /// Physical keys are looked at, never pressed: they move robots.
 class Tour {
@@ -55,6 +59,7 @@ private:
     void pressButton(const QString& subject, const QPointer<QAbstractButton>& button);
     void walkSideBar();
     void walkButtonPages();
+    void walkDock();
 
     void step(const QString& text, const QString& kind, const QString& subject, const QPixmap& picture);
     void note(const QString& text);

@@ -40,6 +40,20 @@
     </message>
 </context>
 <context>
+    <name>pendant::DeveloperButton</name>
+    <message>
+        <source>Developer dock (F12)</source>
+        <translation>Entwicklerfenster (F12)</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::DeveloperDock</name>
+    <message>
+        <source>Developer dock</source>
+        <translation>Entwicklerfenster</translation>
+    </message>
+</context>
+<context>
     <name>pendant::ElfHeader</name>
     <message>
         <source>64-bit Arm (aarch64)</source>
@@ -110,6 +124,72 @@
     <message>
         <source>No keys in use</source>
         <translation>Keine Tasten belegt</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::LinkCard</name>
+    <message>
+        <source>Bus</source>
+        <translation>Bus</translation>
+    </message>
+    <message>
+        <source>Controller</source>
+        <translation>Steuerung</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Steht</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Unterbrochen</translation>
+    </message>
+    <message>
+        <source>Take down</source>
+        <translation>Unterbrechen</translation>
+    </message>
+    <message>
+        <source>Bring up</source>
+        <translation>Verbinden</translation>
+    </message>
+    <message>
+        <source>Nothing stands behind this link, so there is nothing to switch. The pendant puts the virtual controller there when it starts.</source>
+        <translation>Hinter dieser Verbindung steht nichts, also gibt es nichts zu schalten. Das Bediengerät setzt beim Start die virtuelle Steuerung dahinter.</translation>
+    </message>
+    <message>
+        <source>A plugin sees: values are read and set, commands are answered, and what changes on a watched key is delivered.</source>
+        <translation>Ein Plugin sieht: Werte werden gelesen und gesetzt, Befehle werden beantwortet, und was sich unter einem beobachteten Schlüssel ändert, wird zugestellt.</translation>
+    </message>
+    <message>
+        <source>A plugin sees: the bus says that it is not connected. Reading and commands come back at once, with nothing in them; what is set is lost; nothing is delivered. What was watched is watched again as soon as the link is up.</source>
+        <translation>Ein Plugin sieht: Der Bus meldet, dass er nicht verbunden ist. Lesen und Befehle kommen sofort und leer zurück, Gesetztes geht verloren, nichts wird zugestellt. Was beobachtet wurde, wird wieder beobachtet, sobald die Verbindung steht.</translation>
+    </message>
+    <message>
+        <source>A plugin sees: requests are answered, and the tasks for an established connection have run.</source>
+        <translation>Ein Plugin sieht: Anfragen werden beantwortet, und die Aufgaben für eine hergestellte Verbindung sind gelaufen.</translation>
+    </message>
+    <message>
+        <source>A plugin sees: it is told that the controller is gone, and the tasks for a lost connection have run. Requests are not sent and come back at once, with nothing in them.</source>
+        <translation>Ein Plugin sieht: Es erfährt, dass die Steuerung weg ist, und die Aufgaben für eine verlorene Verbindung sind gelaufen. Anfragen werden nicht gesendet und kommen sofort und leer zurück.</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::LinksPanel</name>
+    <message>
+        <source>Try what your plugin does when a link breaks and when it comes back.</source>
+        <translation>Probieren Sie aus, was Ihr Plugin tut, wenn eine Verbindung abbricht und wenn sie wiederkommt.</translation>
+    </message>
+    <message>
+        <source>Both down</source>
+        <translation>Beide unterbrechen</translation>
+    </message>
+    <message>
+        <source>Both up</source>
+        <translation>Beide verbinden</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>Verbindungen</translation>
     </message>
 </context>
 <context>
@@ -246,6 +326,14 @@
         <source>--theme takes one of: %1.</source>
         <translation>--theme nimmt eines von: %1.</translation>
     </message>
+    <message>
+        <source>The cell that the virtual controller plays, a JSON file; without it the one that is built in.</source>
+        <translation>Die Zelle, die die virtuelle Steuerung spielt, eine JSON-Datei; ohne diese die eingebaute.</translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation>Datei</translation>
+    </message>
 </context>
 <context>
     <name>pendant::OwnPages</name>
@@ -337,6 +425,60 @@
     <message>
         <source>%1 threw: %2</source>
         <translation>%1 warf eine Ausnahme: %2</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::SearchBar</name>
+    <message>
+        <source>Searching: %1 nodes looked at, %2 found.</source>
+        <translation>Suche läuft: %1 Knoten angesehen, %2 gefunden.</translation>
+    </message>
+    <message>
+        <source>The first %1 are shown. Type more to narrow the search.</source>
+        <translation>Die ersten %1 werden gezeigt. Tippen Sie mehr, um die Suche einzugrenzen.</translation>
+    </message>
+    <message>
+        <source>Stopped after %1 nodes, %2 found. Press Enter to search again.</source>
+        <translation>Nach %1 Knoten angehalten, %2 gefunden. Die Eingabetaste sucht von neuem.</translation>
+    </message>
+    <message>
+        <source>No key and no value contains “%1”. %2 nodes were looked at.</source>
+        <translation>Kein Schlüssel und kein Wert enthält „%1“. %2 Knoten wurden angesehen.</translation>
+    </message>
+    <message>
+        <source>%1 found in %2 nodes.</source>
+        <translation>%1 gefunden in %2 Knoten.</translation>
+    </message>
+    <message>
+        <source>Search keys and values</source>
+        <translation>Schlüssel und Werte durchsuchen</translation>
+    </message>
+    <message>
+        <source>Previous hit (Shift+F3)</source>
+        <translation>Voriger Treffer (Umschalt+F3)</translation>
+    </message>
+    <message>
+        <source>Next hit (F3)</source>
+        <translation>Nächster Treffer (F3)</translation>
+    </message>
+    <message>
+        <source>Stop the search</source>
+        <translation>Suche anhalten</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::SearchHits</name>
+    <message>
+        <source>gone</source>
+        <translation>nicht mehr da</translation>
+    </message>
+    <message>
+        <source>Found at</source>
+        <translation>Gefunden unter</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
     </message>
 </context>
 <context>
@@ -485,6 +627,17 @@
     </message>
 </context>
 <context>
+    <name>pendant::ThrownHandler</name>
+    <message>
+        <source>A callback on the bus key “%1” threw: %2</source>
+        <translation>Ein Rückruf für den Busschlüssel „%1“ hat geworfen: %2</translation>
+    </message>
+    <message>
+        <source>A network task “%1” threw: %2</source>
+        <translation>Eine Netzwerkaufgabe „%1“ hat geworfen: %2</translation>
+    </message>
+</context>
+<context>
     <name>pendant::Tour</name>
     <message>
         <source>The pendant has started.</source>
@@ -533,6 +686,166 @@
     <message>
         <source>Cannot write %1: %2</source>
         <translation>%1 kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>Developer dock, tab "%1".</source>
+        <translation>Entwicklerfenster, Reiter „%1“.</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::TrafficFilter</name>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::TrafficModel</name>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Way</source>
+        <translation>Weg</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Kanal</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Schlüssel</translation>
+    </message>
+    <message>
+        <source>Sender</source>
+        <translation>Absender</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::TrafficPanel</name>
+    <message>
+        <source>… cut here; what you save is whole.</source>
+        <translation>… hier gekürzt; gespeichert wird das Ganze.</translation>
+    </message>
+    <message>
+        <source>No traffic yet</source>
+        <translation>Noch kein Verkehr</translation>
+    </message>
+    <message>
+        <source>What the pendant and its plugins send over the bus and to the controller is listed here from the moment this window is open. Use the pendant, and it fills.</source>
+        <translation>Was das Bediengerät und seine Plugins über den Bus und an die Steuerung senden, steht hier, sobald dieses Fenster offen ist. Benutzen Sie das Bediengerät, und die Liste füllt sich.</translation>
+    </message>
+    <message>
+        <source>Nothing matches the filter</source>
+        <translation>Nichts passt zum Filter</translation>
+    </message>
+    <message>
+        <source>Other text, or all channels, brings back what is hidden.</source>
+        <translation>Ein anderer Text oder alle Kanäle bringen zurück, was ausgeblendet ist.</translation>
+    </message>
+    <message>
+        <source>%1 entries</source>
+        <translation>%1 Einträge</translation>
+    </message>
+    <message>
+        <source>%1 of %2 entries</source>
+        <translation>%1 von %2 Einträgen</translation>
+    </message>
+    <message>
+        <source>%1. Paused: nothing is recorded.</source>
+        <translation>%1. Angehalten: nichts wird aufgezeichnet.</translation>
+    </message>
+    <message>
+        <source>Save the traffic</source>
+        <translation>Verkehr speichern</translation>
+    </message>
+    <message>
+        <source>JSON lines (*.jsonl)</source>
+        <translation>JSON-Zeilen (*.jsonl)</translation>
+    </message>
+    <message>
+        <source>Saved as %1.</source>
+        <translation>Gespeichert als %1.</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Part of key, sender, kind or value</source>
+        <translation>Teil von Schlüssel, Absender, Art oder Wert</translation>
+    </message>
+    <message>
+        <source>All channels</source>
+        <translation>Alle Kanäle</translation>
+    </message>
+    <message>
+        <source>Bus</source>
+        <translation>Bus</translation>
+    </message>
+    <message>
+        <source>Controller</source>
+        <translation>Steuerung</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Kanal</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Save what is shown, one JSON object a line</source>
+        <translation>Speichern, was gezeigt wird, ein JSON-Objekt je Zeile</translation>
+    </message>
+    <message>
+        <source>Choose an entry to see its whole value.</source>
+        <translation>Wählen Sie einen Eintrag, um seinen ganzen Wert zu sehen.</translation>
+    </message>
+    <message>
+        <source>Traffic</source>
+        <translation>Verkehr</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::TrafficWords</name>
+    <message>
+        <source>out</source>
+        <translation>hin</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <translation>her</translation>
+    </message>
+    <message>
+        <source>%1, not sent</source>
+        <translation>%1, ungesendet</translation>
     </message>
 </context>
 <context>
@@ -640,6 +953,91 @@
     <message>
         <source>Messages</source>
         <translation>Meldungen</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::TreeModel</name>
+    <message>
+        <source>The node is gone.</source>
+        <translation>Den Knoten gibt es nicht mehr.</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Changed by</source>
+        <translation>Geändert von</translation>
+    </message>
+    <message>
+        <source>Changed at</source>
+        <translation>Geändert um</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::TreePanel</name>
+    <message>
+        <source>Edit value</source>
+        <translation>Wert ändern</translation>
+    </message>
+    <message>
+        <source>Copy key</source>
+        <translation>Schlüssel kopieren</translation>
+    </message>
+    <message>
+        <source>Copy JSON</source>
+        <translation>JSON kopieren</translation>
+    </message>
+    <message>
+        <source>Edit the value of the chosen leaf (F2)</source>
+        <translation>Den Wert des gewählten Blatts ändern (F2)</translation>
+    </message>
+    <message>
+        <source>Copy the key of the chosen node (Ctrl+C)</source>
+        <translation>Den Schlüssel des gewählten Knotens kopieren (Strg+C)</translation>
+    </message>
+    <message>
+        <source>Copy the chosen node with everything below it as JSON (Ctrl+Shift+C)</source>
+        <translation>Den gewählten Knoten mit allem darunter als JSON kopieren (Strg+Umschalt+C)</translation>
+    </message>
+    <message>
+        <source>Tree</source>
+        <translation>Baum</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::ValueReader</name>
+    <message>
+        <source>“%1” is not a whole number, or too big a one.</source>
+        <translation>„%1“ ist keine ganze Zahl oder eine zu große.</translation>
+    </message>
+    <message>
+        <source>“%1” is not a number. It is written with a point, such as 12.5.</source>
+        <translation>„%1“ ist keine Zahl. Sie wird mit Punkt geschrieben, etwa 12.5.</translation>
+    </message>
+    <message>
+        <source>“%1” is neither true nor false.</source>
+        <translation>„%1“ ist weder true noch false.</translation>
+    </message>
+    <message>
+        <source>“%1” is not JSON. A text stands in quotes.</source>
+        <translation>„%1“ ist kein JSON. Ein Text steht in Anführungszeichen.</translation>
+    </message>
+    <message>
+        <source>“%1” is not a JSON array, and an array stands here.</source>
+        <translation>„%1“ ist kein JSON-Array, und hier steht eines.</translation>
+    </message>
+    <message>
+        <source>“%1” is not a JSON object, and an object stands here.</source>
+        <translation>„%1“ ist kein JSON-Objekt, und hier steht eines.</translation>
+    </message>
+    <message>
+        <source>“%1” is no value of the type %2.</source>
+        <translation>„%1“ ist kein Wert des Typs %2.</translation>
     </message>
 </context>
 <context>

@@ -40,6 +40,20 @@
     </message>
 </context>
 <context>
+    <name>pendant::DeveloperButton</name>
+    <message>
+        <source>Developer dock (F12)</source>
+        <translation>开发者窗口（F12）</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::DeveloperDock</name>
+    <message>
+        <source>Developer dock</source>
+        <translation>开发者窗口</translation>
+    </message>
+</context>
+<context>
     <name>pendant::ElfHeader</name>
     <message>
         <source>64-bit Arm (aarch64)</source>
@@ -110,6 +124,72 @@
     <message>
         <source>No keys in use</source>
         <translation>按键未使用</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::LinkCard</name>
+    <message>
+        <source>Bus</source>
+        <translation>总线</translation>
+    </message>
+    <message>
+        <source>Controller</source>
+        <translation>控制器</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>已连接</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>已断开</translation>
+    </message>
+    <message>
+        <source>Take down</source>
+        <translation>断开</translation>
+    </message>
+    <message>
+        <source>Bring up</source>
+        <translation>连接</translation>
+    </message>
+    <message>
+        <source>Nothing stands behind this link, so there is nothing to switch. The pendant puts the virtual controller there when it starts.</source>
+        <translation>此连接后面没有任何对象，因此无可切换。示教器启动时会将虚拟控制器接在后面。</translation>
+    </message>
+    <message>
+        <source>A plugin sees: values are read and set, commands are answered, and what changes on a watched key is delivered.</source>
+        <translation>插件所见：可以读取和设置值，命令得到应答，被监视的键发生变化时会送达。</translation>
+    </message>
+    <message>
+        <source>A plugin sees: the bus says that it is not connected. Reading and commands come back at once, with nothing in them; what is set is lost; nothing is delivered. What was watched is watched again as soon as the link is up.</source>
+        <translation>插件所见：总线报告未连接。读取和命令立即返回，内容为空；设置的值会丢失；不会送达任何内容。连接恢复后，原先监视的键会重新监视。</translation>
+    </message>
+    <message>
+        <source>A plugin sees: requests are answered, and the tasks for an established connection have run.</source>
+        <translation>插件所见：请求得到应答，连接建立时的任务已经运行。</translation>
+    </message>
+    <message>
+        <source>A plugin sees: it is told that the controller is gone, and the tasks for a lost connection have run. Requests are not sent and come back at once, with nothing in them.</source>
+        <translation>插件所见：被告知控制器已断开，连接丢失时的任务已经运行。请求不会发送，并立即返回空内容。</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::LinksPanel</name>
+    <message>
+        <source>Try what your plugin does when a link breaks and when it comes back.</source>
+        <translation>试一试连接中断和恢复时插件的表现。</translation>
+    </message>
+    <message>
+        <source>Both down</source>
+        <translation>全部断开</translation>
+    </message>
+    <message>
+        <source>Both up</source>
+        <translation>全部连接</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>连接</translation>
     </message>
 </context>
 <context>
@@ -246,6 +326,14 @@
         <source>--theme takes one of: %1.</source>
         <translation>--theme 可取：%1。</translation>
     </message>
+    <message>
+        <source>The cell that the virtual controller plays, a JSON file; without it the one that is built in.</source>
+        <translation>虚拟控制器所模拟的单元，一个 JSON 文件；不指定时使用内置的单元。</translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation>文件</translation>
+    </message>
 </context>
 <context>
     <name>pendant::OwnPages</name>
@@ -337,6 +425,60 @@
     <message>
         <source>%1 threw: %2</source>
         <translation>%1 抛出异常：%2</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::SearchBar</name>
+    <message>
+        <source>Searching: %1 nodes looked at, %2 found.</source>
+        <translation>正在搜索：已查看 %1 个节点，找到 %2 个。</translation>
+    </message>
+    <message>
+        <source>The first %1 are shown. Type more to narrow the search.</source>
+        <translation>显示前 %1 个。请输入更多内容以缩小范围。</translation>
+    </message>
+    <message>
+        <source>Stopped after %1 nodes, %2 found. Press Enter to search again.</source>
+        <translation>查看 %1 个节点后停止，找到 %2 个。按回车键重新搜索。</translation>
+    </message>
+    <message>
+        <source>No key and no value contains “%1”. %2 nodes were looked at.</source>
+        <translation>没有键或值包含“%1”。共查看了 %2 个节点。</translation>
+    </message>
+    <message>
+        <source>%1 found in %2 nodes.</source>
+        <translation>在 %2 个节点中找到 %1 个。</translation>
+    </message>
+    <message>
+        <source>Search keys and values</source>
+        <translation>搜索键和值</translation>
+    </message>
+    <message>
+        <source>Previous hit (Shift+F3)</source>
+        <translation>上一个结果（Shift+F3）</translation>
+    </message>
+    <message>
+        <source>Next hit (F3)</source>
+        <translation>下一个结果（F3）</translation>
+    </message>
+    <message>
+        <source>Stop the search</source>
+        <translation>停止搜索</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::SearchHits</name>
+    <message>
+        <source>gone</source>
+        <translation>已不存在</translation>
+    </message>
+    <message>
+        <source>Found at</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
     </message>
 </context>
 <context>
@@ -485,6 +627,17 @@
     </message>
 </context>
 <context>
+    <name>pendant::ThrownHandler</name>
+    <message>
+        <source>A callback on the bus key “%1” threw: %2</source>
+        <translation>总线键“%1”的回调抛出异常：%2</translation>
+    </message>
+    <message>
+        <source>A network task “%1” threw: %2</source>
+        <translation>网络任务“%1”抛出异常：%2</translation>
+    </message>
+</context>
+<context>
     <name>pendant::Tour</name>
     <message>
         <source>The pendant has started.</source>
@@ -533,6 +686,166 @@
     <message>
         <source>Cannot write %1: %2</source>
         <translation>无法写入 %1：%2</translation>
+    </message>
+    <message>
+        <source>Developer dock, tab "%1".</source>
+        <translation>开发者窗口，标签页“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::TrafficFilter</name>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::TrafficModel</name>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Way</source>
+        <translation>方向</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>通道</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>键</translation>
+    </message>
+    <message>
+        <source>Sender</source>
+        <translation>发送者</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>毫秒</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::TrafficPanel</name>
+    <message>
+        <source>… cut here; what you save is whole.</source>
+        <translation>……此处截断；保存的内容是完整的。</translation>
+    </message>
+    <message>
+        <source>No traffic yet</source>
+        <translation>尚无通信</translation>
+    </message>
+    <message>
+        <source>What the pendant and its plugins send over the bus and to the controller is listed here from the moment this window is open. Use the pendant, and it fills.</source>
+        <translation>从打开此窗口起，示教器及其插件通过总线和向控制器发送的内容都列在这里。操作示教器即可看到。</translation>
+    </message>
+    <message>
+        <source>Nothing matches the filter</source>
+        <translation>没有符合筛选条件的内容</translation>
+    </message>
+    <message>
+        <source>Other text, or all channels, brings back what is hidden.</source>
+        <translation>更改文字或选择全部通道，即可显示被隐藏的内容。</translation>
+    </message>
+    <message>
+        <source>%1 entries</source>
+        <translation>%1 条</translation>
+    </message>
+    <message>
+        <source>%1 of %2 entries</source>
+        <translation>%1 条，共 %2 条</translation>
+    </message>
+    <message>
+        <source>%1. Paused: nothing is recorded.</source>
+        <translation>%1。已暂停：不记录任何内容。</translation>
+    </message>
+    <message>
+        <source>Save the traffic</source>
+        <translation>保存通信记录</translation>
+    </message>
+    <message>
+        <source>JSON lines (*.jsonl)</source>
+        <translation>JSON 行 (*.jsonl)</translation>
+    </message>
+    <message>
+        <source>Saved as %1.</source>
+        <translation>已保存为 %1。</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>筛选</translation>
+    </message>
+    <message>
+        <source>Part of key, sender, kind or value</source>
+        <translation>键、发送者、类型或值的一部分</translation>
+    </message>
+    <message>
+        <source>All channels</source>
+        <translation>全部通道</translation>
+    </message>
+    <message>
+        <source>Bus</source>
+        <translation>总线</translation>
+    </message>
+    <message>
+        <source>Controller</source>
+        <translation>控制器</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>通道</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>继续</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>暂停</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>清空</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Save what is shown, one JSON object a line</source>
+        <translation>保存所显示的内容，每行一个 JSON 对象</translation>
+    </message>
+    <message>
+        <source>Choose an entry to see its whole value.</source>
+        <translation>选择一条记录以查看其完整的值。</translation>
+    </message>
+    <message>
+        <source>Traffic</source>
+        <translation>通信</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::TrafficWords</name>
+    <message>
+        <source>out</source>
+        <translation>发</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <translation>收</translation>
+    </message>
+    <message>
+        <source>%1, not sent</source>
+        <translation>%1，未发送</translation>
     </message>
 </context>
 <context>
@@ -640,6 +953,91 @@
     <message>
         <source>Messages</source>
         <translation>消息</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::TreeModel</name>
+    <message>
+        <source>The node is gone.</source>
+        <translation>节点已不存在。</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>Changed by</source>
+        <translation>修改者</translation>
+    </message>
+    <message>
+        <source>Changed at</source>
+        <translation>修改时间</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::TreePanel</name>
+    <message>
+        <source>Edit value</source>
+        <translation>编辑值</translation>
+    </message>
+    <message>
+        <source>Copy key</source>
+        <translation>复制键</translation>
+    </message>
+    <message>
+        <source>Copy JSON</source>
+        <translation>复制 JSON</translation>
+    </message>
+    <message>
+        <source>Edit the value of the chosen leaf (F2)</source>
+        <translation>编辑所选叶节点的值（F2）</translation>
+    </message>
+    <message>
+        <source>Copy the key of the chosen node (Ctrl+C)</source>
+        <translation>复制所选节点的键（Ctrl+C）</translation>
+    </message>
+    <message>
+        <source>Copy the chosen node with everything below it as JSON (Ctrl+Shift+C)</source>
+        <translation>将所选节点及其下所有内容复制为 JSON（Ctrl+Shift+C）</translation>
+    </message>
+    <message>
+        <source>Tree</source>
+        <translation>数据树</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::ValueReader</name>
+    <message>
+        <source>“%1” is not a whole number, or too big a one.</source>
+        <translation>“%1”不是整数，或者过大。</translation>
+    </message>
+    <message>
+        <source>“%1” is not a number. It is written with a point, such as 12.5.</source>
+        <translation>“%1”不是数字。请用小数点书写，例如 12.5。</translation>
+    </message>
+    <message>
+        <source>“%1” is neither true nor false.</source>
+        <translation>“%1”既不是 true 也不是 false。</translation>
+    </message>
+    <message>
+        <source>“%1” is not JSON. A text stands in quotes.</source>
+        <translation>“%1”不是 JSON。文字要加引号。</translation>
+    </message>
+    <message>
+        <source>“%1” is not a JSON array, and an array stands here.</source>
+        <translation>“%1”不是 JSON 数组，而这里是数组。</translation>
+    </message>
+    <message>
+        <source>“%1” is not a JSON object, and an object stands here.</source>
+        <translation>“%1”不是 JSON 对象，而这里是对象。</translation>
+    </message>
+    <message>
+        <source>“%1” is no value of the type %2.</source>
+        <translation>“%1”不是类型 %2 的值。</translation>
     </message>
 </context>
 <context>

@@ -12,6 +12,8 @@ kite_test(tst_session.cpp LIBRARIES kite pendantTest)
 kite_test(tst_session_throwing.cpp LIBRARIES kite pendantTest PLUGINS ${fixtures_that_throw} fixture_pair)
 kite_test(tst_session_deleting.cpp LIBRARIES kite pendantTest PLUGINS fixture_deleting)
 
+kite_test(tst_plugins_thrown.cpp LIBRARIES kite pendantTest)
+
 set(tour "${CMAKE_SOURCE_DIR}/pendant/tour")
 kite_test(tst_tour_transcript.cpp LIBRARIES pendantPlugins
     SOURCES "${tour}/markdown.cpp" "${tour}/tourname.cpp" "${tour}/transcript.cpp" "${tour}/transcript.h")

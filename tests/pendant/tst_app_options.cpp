@@ -44,16 +44,19 @@ void TestOptions::withoutOptionsThereAreNeitherPluginsNorATour() {
     QCOMPARE(options.error, QString());
     QVERIFY(options.pluginFolders.isEmpty());
     QVERIFY(options.tourFolder.isEmpty());
+    QVERIFY(options.cellFile.isEmpty());
     QCOMPARE(options.size, QSize(1280, 800));
     QVERIFY(QFileInfo(options.workFolder).isAbsolute());
 }
 
 void TestOptions::foldersOfPluginsAreMadeAbsoluteAndKeepTheirOrder() {
-    const Options options = read({"--plugins", "b", "--plugins", "/opt/a/", "--tour", "../out", "--work", "w"});
+    const Options options =
+        read({"--plugins", "b", "--plugins", "/opt/a/", "--tour", "../out", "--work", "w", "--cell", "c.json"});
     const QString here = QDir::currentPath();
     QCOMPARE(options.pluginFolders, QStringList({here + "/b", "/opt/a"}));
     QCOMPARE(options.tourFolder, QDir::cleanPath(here + "/../out"));
     QCOMPARE(options.workFolder, here + "/w");
+    QCOMPARE(options.cellFile, here + "/c.json");
 }
 
 void TestOptions::severalFoldersMayFollowOneOption() {
@@ -92,7 +95,7 @@ void TestOptions::aWrongCommandLineIsExplained() {
 
 void TestOptions::helpNamesEveryOption() {
     const QString help = read({"--help"}).help;
-    for (const char* option : {"--plugins", "--tour", "--work", "--size", "--language", "--theme"})
+    for (const char* option : {"--plugins", "--tour", "--work", "--cell", "--size", "--language", "--theme"})
         QVERIFY2(help.contains(option), option);
     QVERIFY(read({}).help.isEmpty());
 }

@@ -85,6 +85,27 @@ private slots:
         QVERIFY(transcript().contains("holds no plugin file"));
     }
 
+    void theTourWaitsForTheLinksAndLooksAtTheDeveloperDock() {
+        copy({PLUGIN_fixture_touring});
+        QCOMPARE(tour(), 0);
+        QCOMPARE(withoutNumbers(pictureNames().filter("-developer-")),
+                 QStringList({"developer-tree", "developer-traffic", "developer-links"}));
+        QVERIFY(transcript().contains("Developer dock, tab \"Traffic\"."));
+    }
+
+    void aCellThatIsNoGoodEndsThePendantWithStatus2() {
+        copy({PLUGIN_fixture_touring});
+        QFile cell(m_folder->filePath("bad.json"));
+        QVERIFY(cell.open(QIODevice::WriteOnly));
+        cell.write("{ nonsense");
+        cell.close();
+        QCOMPARE(tour({"--cell", "bad.json"}), 2);
+        QVERIFY2(m_output.contains("bad.json"), m_output.constData());
+        QVERIFY(pictureNames().isEmpty());
+        QCOMPARE(tour({"--cell", "missing.json"}), 2);
+        QVERIFY2(m_output.contains("missing.json"), m_output.constData());
+    }
+
     void aFolderThatCannotBeMadeIsToldAndFails() {
         copy({PLUGIN_fixture_pair});
         QFile file(m_folder->filePath("out"));
@@ -130,11 +151,12 @@ private:
         }
     }
 
-    int tour() {
+    int tour(const QStringList& more = {}) {
         QProcess pendant;
         pendant.setProcessChannelMode(QProcess::MergedChannels);
         pendant.setWorkingDirectory(m_folder->path());
-        pendant.start(PENDANT, {"--plugins", "plugins", "--work", "work", "--language", "en", "--tour", "out"});
+        pendant.start(
+            PENDANT, QStringList{"--plugins", "plugins", "--work", "work", "--language", "en", "--tour", "out"} + more);
         const bool finished = pendant.waitForFinished(120000);
         m_output = pendant.readAll();
         return finished && pendant.exitStatus() == QProcess::NormalExit ? pendant.exitCode() : -1;
