@@ -7,8 +7,6 @@
 #include "wireandgas.h"
 #include "wirechange.h"
 
-#include <QIcon>
-
 KITE_PLUGIN(WeldPlugin, "weld");
 
 namespace {
@@ -18,16 +16,15 @@ const QString wirePage = QStringLiteral("wire");
 const QString buttonPage = QStringLiteral("Wire and gas");
 
 // Resources of the plugin open under its own name.
-helm::PhysicalButton makeButton(const QString& name, const QString& up, const QString& held,
+kite::PhysicalButton makeButton(const QString& name, const QString& up, const QString& held,
                                 std::function<void(bool)> callback) {
-    return {name, QIcon(QStringLiteral("weld:") + up), QIcon(QStringLiteral("weld:") + held), std::move(callback)};
+    return {name, QStringLiteral("weld:") + up, QStringLiteral("weld:") + held, std::move(callback)};
 }
 
 } // namespace
 
 WeldPlugin::WeldPlugin(QObject* parent)
-    : PluginBase(parent), m_module(static_cast<kite::Kite*>(parent)), m_store(new ProcedureStore(this)),
-      m_wireAndGas(new WireAndGas(this)) {
+    : PluginBase(parent), m_store(new ProcedureStore(this)), m_wireAndGas(new WireAndGas(this)) {
     setPluginLabel(tr("Weld"));
 }
 
@@ -35,11 +32,11 @@ void WeldPlugin::init() {
     makePage();
     makeSideBar();
     makeButtons();
-    m_module->createStatusBar(new StatusItem(m_store), 0);
+    kite::CreateStatusBar(kitePluginName, new StatusItem(m_store), 0);
 }
 
 void WeldPlugin::render() {
-    m_module->changePhyBtnStatus(buttonPage, true);
+    kite::ChangePhyButtonStatus(kitePluginName, buttonPage, true);
 }
 
 // Wire must not run on while nobody looks at the page.
@@ -51,20 +48,21 @@ void WeldPlugin::idle() {
 // Status bar, side bar and physical buttons live on in the pendant for a moment: nothing of ours may run in them.
 void WeldPlugin::detach() {
     idle();
-    m_module->changePhyBtnStatus(buttonPage, false);
+    kite::ChangePhyButtonStatus(kitePluginName, buttonPage, false);
 }
 
 void WeldPlugin::makePage() {
     m_page = new WeldPage(m_store);
-    m_module->createCenterWidgte(m_page);
+    kite::CreateCenterWidget(kitePluginName, m_page);
     connect(m_page, &WeldPage::fullScreenPressed, this, &WeldPlugin::toggleFullScreen);
     connect(m_page, &WeldPage::wireChangePressed, this, &WeldPlugin::changeWire);
-    connect(m_page, &WeldPage::proceduresPressed, this, [this] { m_module->switchRightExpandWidgte(proceduresPage); });
+    connect(m_page, &WeldPage::proceduresPressed, this,
+            [] { kite::SwitchRightExpandWidgte(kitePluginName, proceduresPage); });
 }
 
 void WeldPlugin::makeSideBar() {
-    m_module->createRightExpandWidgte(new ProcedurePage(m_store), proceduresPage);
-    m_module->createRightExpandWidgte(new WireAndGasPage(m_wireAndGas), wirePage);
+    kite::CreateRightExpandWidgte(kitePluginName, new ProcedurePage(m_store), proceduresPage);
+    kite::CreateRightExpandWidgte(kitePluginName, new WireAndGasPage(m_wireAndGas), wirePage);
 }
 
 void WeldPlugin::makeButtons() {
@@ -74,8 +72,8 @@ void WeldPlugin::makeButtons() {
     const auto gas = [this](bool held) { m_wireAndGas->openGas(held); };
     const QString moving = QStringLiteral("wire-moving.svg");
     const QString flowing = QStringLiteral("gas-flowing.svg");
-    m_module->createPhyBtnPage(
-        buttonPage,
+    kite::CreatePhyButtonList(
+        kitePluginName, buttonPage,
         {makeButton(tr("Forward"), QStringLiteral("wire-forward.svg"), moving, feed(WireAndGas::Forward)),
          makeButton(tr("Gas"), QStringLiteral("gas.svg"), flowing, gas)},
         {makeButton(tr("Back"), QStringLiteral("wire-back.svg"), moving, feed(WireAndGas::Back)),
@@ -84,17 +82,16 @@ void WeldPlugin::makeButtons() {
 }
 
 void WeldPlugin::toggleFullScreen() {
-    if (!m_module->changeFullScreen(!m_full))
-        return;
     m_full = !m_full;
+    kite::ChangeFullScreen(kitePluginName, m_full);
     m_page->showFullScreenState(m_full);
 }
 
 void WeldPlugin::changeWire() {
     auto* window = new WireChange(m_page);
-    m_module->changeModelWindowStatus(true);
-    connect(window, &QDialog::finished, this, [this] { m_module->changeModelWindowStatus(false); });
+    kite::ChangeModelWindowStatus(kitePluginName, true);
+    connect(window, &QDialog::finished, this, [] { kite::ChangeModelWindowStatus(kitePluginName, false); });
     connect(window, &QDialog::accepted, this,
-            [this] { m_module->ThrowLog(kite::ThrowInformation, tr("The wire has been changed.")); });
+            [] { kite::ThrowLog(kitePluginName, kite::ThrowInformation, tr("The wire has been changed.")); });
     window->open();
 }

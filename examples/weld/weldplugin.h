@@ -26,7 +26,6 @@ private:
     void toggleFullScreen();
     void changeWire();
 
-    kite::Kite* m_module;
     ProcedureStore* m_store;
     WireAndGas* m_wireAndGas;
     WeldPage* m_page = nullptr;

@@ -19,12 +19,13 @@ private slots:
     void initTestCase() {
         m_pendant.reset(new Pendant);
         QVERIFY(m_pendant->load(PLUGIN_hello));
+        QVERIFY(m_pendant->load(PLUGIN_monitor));
         QVERIFY(m_pendant->load(PLUGIN_weld));
         m_pendant->start();
         QVERIFY(!m_pendant->session().hasFailures());
     }
 
-    void eachHasItsEntry() { QCOMPARE(m_pendant->navigation(), QStringList({"Hello", "Weld"})); }
+    void eachHasItsEntry() { QCOMPARE(m_pendant->navigation(), QStringList({"Hello", "Monitor", "Weld"})); }
 
     void helloShowsItsGreeting() {
         QVERIFY(m_pendant->open("hello"));
@@ -34,6 +35,11 @@ private slots:
                 shown.append(label->text());
         }
         QCOMPARE(shown, QStringList("Hello, robot."));
+    }
+
+    void monitorSaysThatNothingIsConnected() {
+        QVERIFY(m_pendant->open("monitor"));
+        QCOMPARE(m_pendant->page("monitor")->findChild<QLabel*>("linkState")->text(), QString("Not connected"));
     }
 
     void weldShowsTheProcedureInUse() {
