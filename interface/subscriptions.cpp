@@ -49,7 +49,7 @@ bool InterfaceManager::connectRelayData(const QString& pluginName, const QString
     const QString name = mName(pluginName, connectKey);
     if (d->callbackMap.contains(name))
         return false;
-    d->callbackMap.insert(name, std::move(callback));
+    d->callbackMap[name] = std::move(callback);
     if (d->subscriberMap.contains(serviceKey)) {
         d->subscriberMap[serviceKey].append(name);
         return true;
@@ -59,7 +59,7 @@ bool InterfaceManager::connectRelayData(const QString& pluginName, const QString
     const QMetaObject::Connection connection = d->follow(serviceKey);
     if (!connection) {
         hostline::service(QString()) << "connectRelayData failed: connect signal failed for " << serviceKey;
-        d->callbackMap.remove(name);
+        const auto refused = d->callbackMap.take(name);
         d->subscriberMap.remove(serviceKey);
         return false;
     }
@@ -73,7 +73,8 @@ bool InterfaceManager::connectRelayData(const QString& pluginName, const QString
 bool InterfaceManager::disconnectRelayData(const QString& pluginName, const QString& serviceKey,
                                            const QString& connectKey) {
     const QString name = mName(pluginName, connectKey);
-    d->callbackMap.remove(name);
+    // What goes with the callback may come back in here, and own the very names that were passed: it goes last.
+    const auto ended = d->callbackMap.take(name);
     QStringList& names = d->subscriberMap[serviceKey];
     names.removeAll(name);
     if (!names.isEmpty())

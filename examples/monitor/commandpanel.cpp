@@ -31,5 +31,6 @@ CommandPanel::CommandPanel(RobotWatch* watch)
 
 void CommandPanel::send() {
     const QString answer = m_watch->sendCustom(m_group->text(), m_key->text(), m_value->text());
-    m_answer->setText(answer.isEmpty() ? tr("No answer. Is the bus connected?") : tr("Answer: %1").arg(answer));
+    m_answer->setText(answer.isEmpty() ? tr("Nothing came back: the bus is down, or the service has nothing to say.")
+                                       : tr("Answer: %1").arg(answer));
 }

@@ -23,17 +23,17 @@ LinkPanel::LinkPanel(RobotWatch* watch)
     layout->addWidget(m_state);
     layout->addWidget(m_events, 1);
     connect(watch, &RobotWatch::linksChanged, this, &LinkPanel::note);
-    show();
+    display();
 }
 
 void LinkPanel::note(const QString& text) {
     m_events->insertItem(0, QTime::currentTime().toString(QStringLiteral("hh:mm:ss  ")) + text);
     while (m_events->count() > mostEvents)
         delete m_events->takeItem(mostEvents);
-    show();
+    display();
 }
 
-void LinkPanel::show() {
+void LinkPanel::display() {
     m_state->setText(m_watch->isConnected() ? tr("Connected") : tr("Not connected"));
     m_state->setProperty("state", m_watch->isConnected() ? QStringLiteral("good") : QStringLiteral("error"));
     m_state->style()->unpolish(m_state);

@@ -14,7 +14,7 @@ public:
     explicit LinkPanel(RobotWatch* watch);
 
 private:
-    void show();
+    void display();
     void note(const QString& text);
 
     RobotWatch* m_watch;

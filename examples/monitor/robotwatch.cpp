@@ -56,8 +56,12 @@ void RobotWatch::take(int index, const QVariant& value) {
 
 // A subscription tells of changes only: what is there already has to be read, and again after a link was down.
 void RobotWatch::readAll() {
-    for (int i = 0; i < m_values.size(); ++i)
-        take(i, kite::kiteInterface()->getRelayData(m_values.at(i).key).toVariant());
+    for (int i = 0; i < m_values.size(); ++i) {
+        const QJsonValue value = kite::kiteInterface()->getRelayData(m_values.at(i).key);
+        // No answer came in time: what is known already is better than nothing.
+        if (!value.isNull())
+            take(i, value);
+    }
 }
 
 void RobotWatch::connected() {

@@ -21,18 +21,18 @@ ValuePanel::ValuePanel(RobotWatch* watch)
         grid->addWidget(new QLabel(values.at(i).key), i, 0);
         grid->addWidget(m_rows.last().value, i, 1);
         grid->addWidget(m_rows.last().changedAt, i, 2);
-        show(i);
+        display(i);
     }
     m_lamp->setObjectName(QStringLiteral("lamp"));
     grid->setRowStretch(values.size(), 1);
     grid->addWidget(m_lamp, values.size() + 1, 0, 1, 3, Qt::AlignLeft);
     connect(m_lamp, &QPushButton::clicked, this, &ValuePanel::switchLamp);
-    connect(watch, &RobotWatch::valueChanged, this, &ValuePanel::show);
+    connect(watch, &RobotWatch::valueChanged, this, &ValuePanel::display);
     connect(watch, &RobotWatch::linksChanged, this, [this] { m_lamp->setEnabled(m_watch->isConnected()); });
     m_lamp->setEnabled(watch->isConnected());
 }
 
-void ValuePanel::show(int index) {
+void ValuePanel::display(int index) {
     const RobotWatch::Value& value = m_watch->values().at(index);
     m_rows.at(index).value->setText(value.text.isEmpty() ? tr("no value yet") : value.text);
     m_rows.at(index).changedAt->setText(value.changedAt.toString(QStringLiteral("hh:mm:ss")));

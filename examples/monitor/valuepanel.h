@@ -19,7 +19,7 @@ private:
         QLabel* value;
         QLabel* changedAt;
     };
-    void show(int index);
+    void display(int index);
     void switchLamp();
 
     RobotWatch* m_watch;

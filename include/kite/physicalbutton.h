@@ -9,7 +9,7 @@ namespace kite {
 /// One of the pendant's physical buttons as a plugin describes it, see CreatePhyButtonList().
 /// \since 0.1
 struct PhysicalButton {
-    QString name;                       ///< tells the button apart on its page
+    QString name;                       ///< what people read on the key
     QString firstIcon;                  ///< path of the first icon
     QString secondIcon;                 ///< path of the second icon
     std::function<void(bool)> callback; ///< called on the user-interface thread with the button's state

@@ -26,6 +26,8 @@
 /// | CreateRightExpandWidgte() | refused; the widget is still yours     | the widget is there |
 /// | all others                | called; what came of it is not told    | never               |
 ///
+/// GetPluginDataPath() calls nothing: 0 means that the path is set. GetRightExpandSideBar() takes no name.
+///
 /// User-interface thread only.
 /// \since 0.1
 

@@ -15,7 +15,7 @@ namespace kite {
 ///     class StatePage : public QWidget {
 ///         ...
 ///         kite::Subscription m_state{kitePluginName, "robot.state",
-///                                    [this](const QVariant& value) { show(value.toString()); }, "state"};
+///                                    [this](const QVariant& value) { display(value.toString()); }, "state"};
 ///     };
 ///
 /// It can be moved, not copied, and may be destroyed or given up in its own callback. Make it the last member, so that
@@ -39,7 +39,7 @@ public:
 
     Subscription(Subscription&& other) noexcept { swap(other); }
     /// Ends what this one follows and takes over what `other` follows.
-    Subscription& operator=(Subscription&& other) {
+    Subscription& operator=(Subscription&& other) noexcept {
         Subscription taken(std::move(other));
         swap(taken);
         return *this;

@@ -1,11 +1,14 @@
 #pragma once
 
+#include "brisk/guarded.h"
+
 #include <QCoreApplication>
+#include <QString>
 
 namespace pendant {
 
-/// While it lives, what plugins throw out of callbacks on bus keys and out of network tasks is reported in the message
-/// list under the key or the task, and the pendant goes on. One at a time.
+/// While it lives, what plugins throw out of what the bus and the managers call is reported in the message list under
+/// the key, task, command or link, and the pendant goes on. One at a time.
 class ThrownHandler {
     Q_DECLARE_TR_FUNCTIONS(pendant::ThrownHandler)
 
@@ -15,6 +18,7 @@ public:
 
 private:
     Q_DISABLE_COPY(ThrownHandler)
+    static QString sentenceFor(brisk::standin::GuardedCall call);
 };
 
 } // namespace pendant

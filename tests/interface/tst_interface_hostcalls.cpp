@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QJsonArray>
 #include <QJsonObject>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -168,7 +169,9 @@ private slots:
         QVERIFY(!kiteInterface()->setRelayData("k", 1));
         QVERIFY(!kiteInterface()->commandRelayData("k", 1));
         QCOMPARE(kiteInterface()->execCommandRelayData("k", 1), QJsonValue(false));
+        QSignalSpy connected(kiteInterface(), &kite::InterfaceManager::sigNetworkConnect);
         emit helm::ManagerHelper::instance()->controllerManager()->rcConnected();
+        QCOMPARE(connected.size(), 0);
         QCOMPARE(spy().calls, QStringList());
     }
 

@@ -77,6 +77,24 @@ private slots:
         QCOMPARE(log().lines().size(), 2);
     }
 
+    void aSubscriptionIsWrittenBeforeTheKeyIsWatched() {
+        int before = -1;
+        class Noting : public pendanttest::FakeLink {
+        public:
+            std::function<void()> onWatch;
+            void send(const Message& message) override {
+                if (message.verb == Verb::Watch)
+                    onWatch();
+                FakeLink::send(message);
+            }
+        } noting;
+        noting.onWatch = [&] { before = log().count("connectRelayData - serviceKey : robot.order"); };
+        QVERIFY(subscribe(
+            "weld", "robot.order", [](const QVariant&) {}, "1"));
+        unsubscribe("weld", "robot.order", "1");
+        QCOMPARE(before, 1);
+    }
+
     void nothingElseIsWritten() {
         kiteInterface()->getRelayData("a");
         kiteInterface()->getRelayData("a", "b");

@@ -2,8 +2,6 @@
 
 #include <memory>
 
-using pendanttest::FakeLink;
-
 namespace {
 
 // A task of that kind until the end of the block.

@@ -2,6 +2,8 @@
 
 #include <QSignalSpy>
 
+#include <memory>
+
 using helm::ManagerHelper;
 using kite::InterfaceManager;
 using pendanttest::FakeLink;
@@ -135,6 +137,26 @@ private slots:
         QVERIFY(!kiteInterface()->getRobotConnected());
         bus().setUp(true);
         QVERIFY(kiteInterface()->getRobotConnected());
+    }
+
+    void aManagerOfYourOwnEndsWithItsParent() {
+        auto parent = std::make_unique<QObject>();
+        auto* own = new InterfaceManager(parent.get());
+        QCOMPARE(own->parent(), parent.get());
+        int told = 0;
+        connect(own, &InterfaceManager::sigNetworkConnect, this, [&told] { ++told; });
+        bool isHeard = false;
+        QVERIFY(own->connectRelayData(
+            "own", "robot.own", [&](const QVariant&) { isHeard = true; }, "1"));
+        parent.reset();
+        // What listened on its behalf is gone with it.
+        bus().setUp(false);
+        bus().setUp(true);
+        controller().setUp(false);
+        relay()->watchNode("robot.own")->setValue(nullptr, 1);
+        relay()->watch(nullptr, "robot.own", false);
+        QCOMPARE(told, 0);
+        QVERIFY(!isHeard);
     }
 
     void theStateOfTheBusIsReadAfreshEachTime_data() {

@@ -48,7 +48,7 @@ private slots:
         QVERIFY(!std::is_copy_constructible<Subscription>::value);
         QVERIFY(!std::is_copy_assignable<Subscription>::value);
         QVERIFY(std::is_nothrow_move_constructible<Subscription>::value);
-        QVERIFY(std::is_move_assignable<Subscription>::value);
+        QVERIFY(std::is_nothrow_move_assignable<Subscription>::value);
     }
 
     void oneThatIsMadeOfNothingIsInactive() {
@@ -109,13 +109,14 @@ private slots:
     }
 
     void movingKeepsTheSubscription() {
-        Subscription first("weld", state, hear("1"), "page");
+        std::vector<Subscription> given;
+        given.emplace_back("weld", state, hear("1"), "page");
         {
-            const Subscription second(std::move(first));
+            const Subscription second(std::move(given.front()));
             QVERIFY(second.isActive());
             QCOMPARE(second.serviceKey(), state);
             QCOMPARE(second.connectKey(), QString("page"));
-            QVERIFY(!first.isActive());
+            QVERIFY(!given.front().isActive());
             announce("a");
         }
         announce("b");
@@ -185,6 +186,54 @@ private slots:
         QCOMPARE(m_heard, QStringList{"new:b"});
     }
 
+    // Pages that keep themselves alive through their callback: with the callback goes the page, and with the page its
+    // subscription.
+    void itsCallbackMayOwnIt_data() {
+        QTest::addColumn<bool>("bySomebodyElse");
+        QTest::newRow("ended by itself") << false;
+        QTest::newRow("ended by the list of connect keys") << true;
+    }
+    void itsCallbackMayOwnIt() {
+        QFETCH(bool, bySomebodyElse);
+        const std::weak_ptr<Subscription> page = makeSelfOwned("page");
+        announce("a");
+        QCOMPARE(m_heard, QStringList{"page:a"});
+        if (bySomebodyElse) {
+            for (const QString& key : kiteInterface()->getConnectRelayKeyList("weld"))
+                unsubscribe("weld", state, key);
+        } else {
+            Subscription* raw = page.lock().get();
+            raw->disconnect();
+        }
+        QVERIFY(page.expired());
+        announce("b");
+        QCOMPARE(m_heard, QStringList{"page:a"});
+        QCOMPARE(watches().last(), "-" + state);
+    }
+
+    void itsCallbackMayOwnAnother() {
+        auto other = std::make_shared<Subscription>("weld", state, hear("other"), "other");
+        Subscription owning(
+            "weld", state, [other](const QVariant&) {}, "owning");
+        const std::weak_ptr<Subscription> seen = other;
+        other.reset();
+        QVERIFY(!seen.expired());
+        owning.disconnect();
+        QVERIFY(seen.expired());
+        QCOMPARE(kiteInterface()->getConnectRelayKeyList("weld"), QStringList());
+    }
+
+    void aRefusedCallbackMayOwnSomething() {
+        brisk::standin::hostFaults().nullWatchNodes = true;
+        auto owned = std::make_shared<Subscription>();
+        const std::weak_ptr<Subscription> seen = owned;
+        const Subscription refused(
+            "weld", "no.node", [owned](const QVariant&) {}, "page");
+        owned.reset();
+        QVERIFY(!refused.isActive());
+        QVERIFY(seen.expired());
+    }
+
     void itDoesNotKnowThatSomebodyElseEndedIt() {
         const Subscription subscription("weld", state, hear("1"), "page");
         unsubscribe("weld", state, "page");
@@ -194,6 +243,14 @@ private slots:
     }
 
 private:
+    std::weak_ptr<Subscription> makeSelfOwned(const QString& connectKey) {
+        const auto page = std::make_shared<Subscription>();
+        const auto call = hear(connectKey);
+        *page = Subscription(
+            "weld", state, [page, call](const QVariant& value) { call(value); }, connectKey);
+        return page;
+    }
+
     std::function<void(const QVariant&)> hear(const QString& who) {
         return [this, who](const QVariant& value) { m_heard << who + ":" + value.toString(); };
     }

@@ -76,6 +76,8 @@ private slots:
         pendant().log.forgetLines();
         pendant().log.expect("<kite interfacemanager>brisk.kite.weld unuseful");
         QCOMPARE(call("weld"), -2);
+        QCOMPARE(pendant().log.lines().size(), 1);
+        QCOMPARE(pendant().folder.logLines().filter(" unuseful").size(), 1);
         verifyNothingHappened();
     }
 

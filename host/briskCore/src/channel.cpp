@@ -5,7 +5,10 @@
 #include "trafficwriter.h"
 
 #include <QElapsedTimer>
+#include <QHash>
 #include <QPointer>
+#include <QScopedValueRollback>
+#include <QSet>
 #include <QTimer>
 
 #include <algorithm>
@@ -32,20 +35,27 @@ struct Channel::Private {
     }
 
     bool begin(const QObject* sender, Message* message);
+    bool awaitAnswer(quint64 id, qint64 deadlineMs);
     void followUp();
+    void listenTo(Link* link);
     void take(const Answer& answer);
-    void handOver(const Answer& answer);
+    void handOver(const PendingAnswers::Question& question, const Content& content);
     void deliver(const QString& key, const Content& content);
     void forgetExpired();
+    void tellTimeOuts(const QList<PendingAnswers::Question>& questions);
 
     Channel* q;
     QString name;
     TrafficWriter writer;
     QPointer<Link> link;
     bool wasUp = false;
+    bool telling = false;
     QElapsedTimer clock;
     PendingAnswers pending;
     QTimer sweep; ///< runs while there are pending answers
+    // Of questions that hold the thread: there are several when something asks while it is told of traffic.
+    QSet<quint64> asking;
+    QHash<quint64, Content> arrived;
 };
 
 Channel::Channel(const QString& name) : d(new Private(this, name)) {}
@@ -73,19 +83,24 @@ Link* Channel::link() const {
 void Channel::setLink(Link* link) {
     if (d->link)
         disconnect(d->link, nullptr, this, nullptr);
-    d->link = link;
-    if (link) {
-        connect(link, &Link::upChanged, this, [this] { d->followUp(); });
-        connect(link, &QObject::destroyed, this, [this] { d->followUp(); });
-        connect(link, &Link::answered, this, [this](const Answer& answer) { d->take(answer); });
-        connect(link, &Link::delivered, this,
-                [this](const QString& key, const Content& content) { d->deliver(key, content); });
-        connect(link, &Link::noticed, this, [this](const QString& text) {
-            d->writer.notice(text);
-            emit noticed(text);
-        });
-    }
+    // Whoever follows the link hears that the old one is gone, also when the new one is up.
+    d->link = nullptr;
     d->followUp();
+    d->link = link;
+    if (link)
+        d->listenTo(link);
+    d->followUp();
+}
+
+void Channel::Private::listenTo(Link* heard) {
+    connect(heard, &Link::upChanged, q, [this] { followUp(); });
+    connect(heard, &QObject::destroyed, q, [this] { followUp(); });
+    connect(heard, &Link::answered, q, [this](const Answer& answer) { take(answer); });
+    connect(heard, &Link::delivered, q, [this](const QString& key, const Content& content) { deliver(key, content); });
+    connect(heard, &Link::noticed, q, [this](const QString& text) {
+        writer.notice(text);
+        emit q->noticed(text);
+    });
 }
 
 bool Channel::isUp() const {
@@ -93,13 +108,15 @@ bool Channel::isUp() const {
 }
 
 void Channel::Private::followUp() {
-    const bool up = q->isUp();
-    if (up == wasUp)
+    if (telling)
         return;
-    wasUp = up;
-    if (!up)
-        pending.clear();
-    emit q->upChanged(up);
+    const QScopedValueRollback<bool> once(telling, true);
+    while (q->isUp() != wasUp) {
+        wasUp = !wasUp;
+        if (!wasUp)
+            tellTimeOuts(pending.takeAll());
+        emit q->upChanged(wasUp);
+    }
 }
 
 // Gives the message its number; false with the link down.
@@ -123,7 +140,8 @@ bool Channel::post(const QObject* sender, Message message, int timeoutMs) {
         return false;
     const qint64 nowMs = d->clock.elapsed();
     d->pending.add(message.id, {message.key, nowMs, nowMs + std::max(0, timeoutMs)});
-    d->sweep.start();
+    if (!d->sweep.isActive())
+        d->sweep.start();
     d->link->send(message);
     return true;
 }
@@ -132,40 +150,54 @@ Channel::Reply Channel::ask(const QObject* sender, Message message, int timeoutM
     message.wantsAnswer = true;
     if (!d->begin(sender, &message))
         return {Reply::Down, nullptr};
-    const qint64 startMs = d->clock.elapsed();
     const qint64 startNs = d->clock.nsecsElapsed();
+    const qint64 deadlineMs = d->clock.elapsed() + std::max(0, timeoutMs);
+    d->asking.insert(message.id);
     d->link->send(message);
-    Answer answer;
-    while (d->link) {
-        const qint64 leftMs = startMs + timeoutMs - d->clock.elapsed();
-        if (!d->link->receive(&answer, static_cast<int>(std::max<qint64>(0, leftMs))))
-            break;
-        if (answer.id == message.id) {
-            d->writer.answer(message.key, answer.content, d->clock.nsecsElapsed() - startNs);
-            return {Reply::Answered, answer.content};
-        }
-        d->take(answer);
+    const bool isAnswered = d->awaitAnswer(message.id, deadlineMs);
+    d->asking.remove(message.id);
+    const Content content = d->arrived.take(message.id);
+    const qint64 tookNs = d->clock.nsecsElapsed() - startNs;
+    if (isAnswered) {
+        d->writer.answer(keyOf(message), content, tookNs);
+        return {Reply::Answered, content};
     }
-    d->writer.timeOut(message.key, d->clock.nsecsElapsed() - startNs);
-    return {Reply::TimedOut, nullptr};
+    d->writer.timeOut(keyOf(message), tookNs);
+    return {isUp() ? Reply::TimedOut : Reply::Down, nullptr};
 }
 
-// An answer that comes while another question holds the thread waits for the event loop.
+bool Channel::Private::awaitAnswer(quint64 id, qint64 deadlineMs) {
+    Answer answer;
+    while (!arrived.contains(id)) {
+        const qint64 leftMs = std::max<qint64>(0, deadlineMs - clock.elapsed());
+        if (!q->isUp() || !link->receive(&answer, static_cast<int>(leftMs)))
+            return arrived.contains(id);
+        take(answer);
+    }
+    return true;
+}
+
+// What is pending is told from the event loop: it may have come while another question holds the thread.
 void Channel::Private::take(const Answer& answer) {
-    if (pending.contains(answer.id))
-        QMetaObject::invokeMethod(
-            q, [this, answer] { handOver(answer); }, Qt::QueuedConnection);
-    else
-        writer.late(answer.content);
-}
-
-void Channel::Private::handOver(const Answer& answer) {
-    forgetExpired();
+    if (asking.contains(answer.id)) {
+        arrived.insert(answer.id, answer.content);
+        return;
+    }
     if (!pending.contains(answer.id))
         return writer.late(answer.content);
     const PendingAnswers::Question question = pending.take(answer.id);
-    writer.answer(question.key, answer.content, (clock.elapsed() - question.askedMs) * 1000000);
-    emit q->answered(question.key, answer.content);
+    const Content content = answer.content;
+    if (clock.elapsed() > question.deadlineMs) {
+        tellTimeOuts({question});
+        return writer.late(content);
+    }
+    QMetaObject::invokeMethod(
+        q, [this, question, content] { handOver(question, content); }, Qt::QueuedConnection);
+}
+
+void Channel::Private::handOver(const PendingAnswers::Question& question, const Content& content) {
+    writer.answer(question.key, content, (clock.elapsed() - question.askedMs) * 1000000);
+    emit q->answered(question.key, content);
 }
 
 void Channel::Private::deliver(const QString& key, const Content& content) {
@@ -176,11 +208,14 @@ void Channel::Private::deliver(const QString& key, const Content& content) {
 }
 
 void Channel::Private::forgetExpired() {
-    const qint64 nowMs = clock.elapsed();
-    for (const PendingAnswers::Question& question : pending.takeExpired(nowMs))
-        writer.timeOut(question.key, (nowMs - question.askedMs) * 1000000);
+    tellTimeOuts(pending.takeExpired(clock.elapsed()));
     if (pending.isEmpty())
         sweep.stop();
+}
+
+void Channel::Private::tellTimeOuts(const QList<PendingAnswers::Question>& questions) {
+    for (const PendingAnswers::Question& question : questions)
+        writer.timeOut(question.key, (clock.elapsed() - question.askedMs) * 1000000);
 }
 
 } // namespace standin

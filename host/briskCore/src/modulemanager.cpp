@@ -1,6 +1,6 @@
 #include "brisk/modulemanager.h"
 
-#include "nodesbykey.h"
+#include "brisk/nodesbykey.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -40,7 +40,7 @@ namespace {
 
 // Stands for an item that its list does not have: whatever is written there never reaches the tree.
 brisk::ModuleObject* absentItem() {
-    static auto* nodes = new brisk::NodesByKey;
+    static auto* nodes = new brisk::standin::NodesByKey;
     brisk::ModuleObject* node = nodes->emptied(QString());
     node->disconnect();
     return node;

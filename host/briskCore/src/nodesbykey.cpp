@@ -1,6 +1,7 @@
-#include "nodesbykey.h"
+#include "brisk/nodesbykey.h"
 
 namespace brisk {
+namespace standin {
 
 NodesByKey::~NodesByKey() {
     for (const QPointer<ModuleObject>& node : qAsConst(m_nodes))
@@ -15,10 +16,13 @@ ModuleObject* NodesByKey::node(const QString& key) {
 }
 
 ModuleObject* NodesByKey::emptied(const QString& key) {
-    ModuleObject* emptied = node(key);
+    const QPointer<ModuleObject> emptied(node(key));
     emptied->clear(nullptr, false, true);
-    emptied->importFromJson(nullptr, QJsonValue(), false, false, false); // takes the mark as a list away
-    return emptied;
+    if (emptied)
+        emptied->importFromJson(nullptr, QJsonValue(), false, false, false); // takes the mark as a list away
+    // What listens to a child that goes may delete the node.
+    return emptied ? emptied.data() : node(key);
 }
 
+} // namespace standin
 } // namespace brisk

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QMap>
 #include <QString>
 
@@ -17,7 +18,11 @@ public:
     void add(quint64 id, const Question& question) { m_questions.insert(id, question); }
     bool contains(quint64 id) const { return m_questions.contains(id); }
     Question take(quint64 id) { return m_questions.take(id); }
-    void clear() { m_questions.clear(); }
+    QList<Question> takeAll() {
+        const QList<Question> all = m_questions.values();
+        m_questions.clear();
+        return all;
+    }
     bool isEmpty() const { return m_questions.isEmpty(); }
 
     /// Takes out those whose time is over at `nowMs`.

@@ -3,13 +3,12 @@
 #include "brisk/channel.h"
 #include "brisk/guarded.h"
 #include "brisk/hostfaults.h"
-#include "brisk/modulemanager.h"
-#include "nodesbykey.h"
+#include "brisk/nodesbykey.h"
 #include "watchers.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
-#include <QSignalBlocker>
+#include <QPointer>
 
 using brisk::ModuleObject;
 using brisk::standin::Channel;
@@ -18,6 +17,7 @@ using brisk::standin::contentOf;
 using brisk::standin::guarded;
 using brisk::standin::GuardedCall;
 using brisk::standin::Message;
+using brisk::standin::NodesByKey;
 using brisk::standin::Verb;
 
 namespace {
@@ -44,9 +44,10 @@ struct Relay::Private {
     void deliver(const QString& key, const Content& content);
 
     ModuleObject own{QStringLiteral("relay")};
-    brisk::NodesByKey values;
-    brisk::NodesByKey replies;
-    brisk::NodesByKey watched;
+    NodesByKey values;
+    NodesByKey replies;
+    NodesByKey pluginReplies;
+    NodesByKey watched;
     brisk::Watchers watchers;
 };
 
@@ -75,12 +76,17 @@ void Relay::Private::followLink(bool up) {
 void Relay::Private::deliver(const QString& key, const Content& content) {
     if (!watchers.contains(key))
         return;
-    ModuleObject* node = watched.node(key);
+    const QPointer<ModuleObject> node(watched.node(key));
     const QVariant previous = variantOf(node);
-    {
-        const QSignalBlocker quiet(node);
+    // Quietly: a delivery is announced once, when all of it is there. Who listens to a child that goes may delete it.
+    node->blockSignals(true);
+    if (content)
         node->copyFrom(content.get());
-    }
+    else
+        node->importFromJson(nullptr, QJsonValue(), false, false, true);
+    if (!node)
+        return;
+    node->blockSignals(false);
     guarded(GuardedCall::BusDelivery, key, [&] { emit node->changed(variantOf(node), previous, nullptr); });
 }
 
@@ -91,8 +97,10 @@ ModuleObject* Relay::Private::ask(QObject* sender, const Message& message, Modul
         return reply;
     if (!answer.content)
         return nullptr;
+    // Who listens to the reply may delete it.
+    const QPointer<ModuleObject> kept(reply);
     reply->copyFrom(answer.content.get());
-    return reply;
+    return kept;
 }
 
 ModuleObject* Relay::get(QObject* sender, const QString& key) {
@@ -101,7 +109,7 @@ ModuleObject* Relay::get(QObject* sender, const QString& key) {
 
 ModuleObject* Relay::get(QObject* sender, const QString& key, const QString& subKey) {
     return d->ask(sender, {0, Verb::Get, key, subKey, nullptr, true},
-                  d->values.emptied(subKey.isEmpty() ? key : mName(key, subKey)));
+                  d->values.emptied(subKey.isEmpty() ? key : key + QLatin1Char('/') + subKey));
 }
 
 void Relay::set(QObject* sender, const QString& key, const QString& subKey, const QVariant& value) {
@@ -109,7 +117,8 @@ void Relay::set(QObject* sender, const QString& key, const QString& subKey, cons
 }
 
 void Relay::set(QObject* sender, const QString& key, ModuleObject* node) {
-    bus()->send(sender, {0, Verb::Set, key, QString(), contentOf(node), false});
+    if (node)
+        bus()->send(sender, {0, Verb::Set, key, QString(), contentOf(node), false});
 }
 
 void Relay::command(QObject* sender, const QString& key) {
@@ -138,7 +147,7 @@ ModuleObject* Relay::execCommand(QObject* sender, const QString& key, ModuleObje
 
 ModuleObject* Relay::execPluginCommand(QObject* sender, const QString& name, const QString& endpoint,
                                        const QVariant& value) {
-    return d->ask(sender, {0, Verb::Execute, name, endpoint, contentOf(value), true}, d->replies.emptied(name));
+    return d->ask(sender, {0, Verb::Execute, name, endpoint, contentOf(value), true}, d->pluginReplies.emptied(name));
 }
 
 void Relay::watch(QObject* sender, const QString& key, bool on) {

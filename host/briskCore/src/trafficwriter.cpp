@@ -46,6 +46,10 @@ double inMs(qint64 ns) {
 
 } // namespace
 
+QString keyOf(const Message& message) {
+    return message.subKey.isEmpty() ? message.key : message.key + QLatin1Char('.') + message.subKey;
+}
+
 void TrafficWriter::out(const Message& message, const QObject* sender, bool linkDown) const {
     if (!isHeard())
         return;
@@ -53,7 +57,7 @@ void TrafficWriter::out(const Message& message, const QObject* sender, bool link
     entry.time = QDateTime::currentDateTime();
     entry.channel = m_channel;
     entry.kind = kindOf(message.verb);
-    entry.key = message.subKey.isEmpty() ? message.key : message.key + QLatin1Char('.') + message.subKey;
+    entry.key = keyOf(message);
     entry.sender = labelOf(sender);
     entry.value = standin::jsonOf(message.content);
     entry.linkDown = linkDown;

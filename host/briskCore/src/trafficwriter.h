@@ -7,6 +7,9 @@
 
 namespace brisk {
 
+/// The key with the sub-key, joined by ".".
+QString keyOf(const standin::Message& message);
+
 /// Tells Traffic of what goes over one channel. Does nothing while nobody listens there.
 class TrafficWriter {
 public:

@@ -3,9 +3,9 @@
 #include "brisk/channel.h"
 #include "brisk/guarded.h"
 #include "brisk/modulemanager.h"
+#include "brisk/nodesbykey.h"
 
-#include <QHash>
-#include <QSharedPointer>
+#include <QPointer>
 
 using brisk::ModuleObject;
 using brisk::standin::Channel;
@@ -14,6 +14,7 @@ using brisk::standin::contentOf;
 using brisk::standin::guarded;
 using brisk::standin::GuardedCall;
 using brisk::standin::Message;
+using brisk::standin::NodesByKey;
 using brisk::standin::Verb;
 
 namespace helm {
@@ -36,14 +37,13 @@ Message requestOf(const QString& command, const Content& content) {
 struct ControllerManager::Private {
     bool send(const QString& command, const Content& content, int timeoutMs);
     ModuleObject* ask(const QString& command, const Content& content, bool wait, int timeoutMs);
-    void keep(const QString& item, const QString& command, const Content& content);
-    ModuleObject* item(const QString& item, const QString& command);
-    ModuleObject* emptyReply(const QString& command);
+    void keepRequest(const QString& command, const Content& content);
+    void keepResponse(const QString& command, const Content& content);
 
-    // "response/system.controller.get_params" -> the node kept for it
-    QHash<QString, QSharedPointer<ModuleObject>> items;
-    // full command -> the reply node, used again by each call
-    QHash<QString, QSharedPointer<ModuleObject>> replies;
+    NodesByKey requests;  // full command -> its "request" item
+    NodesByKey responses; // full command -> its "response" item
+    NodesByKey others;    // "item/command" -> the node of any other item
+    NodesByKey replies;   // full command -> the reply node, used again by each call
 };
 
 ControllerManager::ControllerManager(QObject* parent) : QObject(parent), d(new Private) {
@@ -51,7 +51,7 @@ ControllerManager::ControllerManager(QObject* parent) : QObject(parent), d(new P
         guarded(GuardedCall::LinkChange, channel()->name(), [&] { up ? emit rcConnected() : emit rcDisconnected(up); });
     });
     connect(channel(), &Channel::answered, this,
-            [this](const QString& command, const Content& content) { d->keep(responseItem, command, content); });
+            [this](const QString& command, const Content& content) { d->keepResponse(command, content); });
 }
 
 ControllerManager::~ControllerManager() = default;
@@ -78,52 +78,44 @@ ModuleObject* ControllerManager::execRequest(const QString& command, ModuleObjec
 }
 
 ModuleObject* ControllerManager::cmdItemMobj(const QString& item, const QString& command) {
-    return d->item(item, command);
+    if (item == requestItem)
+        return d->requests.node(command);
+    return item == responseItem ? d->responses.node(command) : d->others.node(item + QLatin1Char('/') + command);
 }
 
 bool ControllerManager::Private::send(const QString& command, const Content& content, int timeoutMs) {
-    keep(requestItem, command, content);
+    keepRequest(command, content);
     return channel()->post(nullptr, requestOf(command, content), timeoutMs);
 }
 
 // A far side that answers with nothing at all gives null; without an answer the reply is an empty node.
 ModuleObject* ControllerManager::Private::ask(const QString& command, const Content& content, bool wait,
                                               int timeoutMs) {
-    ModuleObject* reply = emptyReply(command);
+    const QPointer<ModuleObject> reply(replies.emptied(command));
     if (!wait) {
         send(command, content, timeoutMs);
         return reply;
     }
-    keep(requestItem, command, content);
+    keepRequest(command, content);
     const Channel::Reply answer = channel()->ask(nullptr, requestOf(command, content), timeoutMs);
     if (answer.state != Channel::Reply::Answered)
         return reply;
-    keep(responseItem, command, answer.content);
-    if (!answer.content)
-        return nullptr;
-    reply->copyFrom(answer.content.get());
-    return reply;
+    keepResponse(command, answer.content);
+    if (answer.content && reply)
+        reply->copyFrom(answer.content.get());
+    return answer.content ? reply.data() : nullptr;
 }
 
-void ControllerManager::Private::keep(const QString& name, const QString& command, const Content& content) {
+void ControllerManager::Private::keepRequest(const QString& command, const Content& content) {
     if (content)
-        item(name, command)->copyFrom(content.get());
+        requests.node(command)->copyFrom(content.get());
+    else
+        requests.emptied(command);
 }
 
-ModuleObject* ControllerManager::Private::item(const QString& name, const QString& command) {
-    QSharedPointer<ModuleObject>& node = items[name + QLatin1Char('/') + command];
-    if (!node)
-        node.reset(new ModuleObject(name));
-    return node.data();
-}
-
-ModuleObject* ControllerManager::Private::emptyReply(const QString& command) {
-    QSharedPointer<ModuleObject>& reply = replies[command];
-    if (!reply)
-        reply.reset(new ModuleObject(command));
-    reply->copyFrom(nullptr);
-    reply->importFromJson(nullptr, QJsonValue(), false, false, false); // takes the mark as a list away
-    return reply.data();
+void ControllerManager::Private::keepResponse(const QString& command, const Content& content) {
+    if (content)
+        guarded(GuardedCall::Response, command, [&] { responses.node(command)->copyFrom(content.get()); });
 }
 
 } // namespace helm

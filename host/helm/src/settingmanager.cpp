@@ -5,6 +5,7 @@
 namespace helm {
 
 struct SettingManager::Private {
+    Private() { file.setIniCodec("UTF-8"); }
     QSettings file{QStringLiteral("settings.ini"), QSettings::IniFormat};
 };
 
@@ -12,7 +13,9 @@ SettingManager::SettingManager(QObject* parent) : QObject(parent), d(new Private
 SettingManager::~SettingManager() = default;
 
 QString SettingManager::getStr(const QString& key, const QString& fallback) const {
-    return d->file.value(key, fallback).toString();
+    const QVariant value = d->file.value(key, fallback);
+    // A value with a comma that is not quoted is read as several: "/home/x/a, b"
+    return value.type() == QVariant::StringList ? value.toStringList().join(QStringLiteral(", ")) : value.toString();
 }
 
 } // namespace helm

@@ -13,36 +13,32 @@ using brisk::standin::GuardedCall;
 
 namespace helm {
 
-namespace {
-
-bool linksAreUp() {
-    return Channel::bus()->isUp() && Channel::controller()->isUp();
-}
-
-} // namespace
-
 struct TaskNetworkManager::Private {
     struct Entry {
         enTaskType type;
-        const QObject* owner; // to be compared, it may be gone
         QString id;
         Task task;
         QStringList after;
+        QMetaObject::Connection ownersEnd;
     };
 
     int indexOf(enTaskType type, const QString& id) const;
     bool remove(enTaskType type, const QString& id);
-    void followLinks();
+    void follow(bool* link, bool up);
     void runAll(enTaskType type);
-    void run(enTaskType type, const QString& id, QStringList* waiting);
+    void run(enTaskType type, const QString& id);
 
     QList<Entry> entries; // in the order of registration
-    bool wereUp = linksAreUp();
+    // As they were told: a link that is pulled while it comes up is told of both.
+    bool busIsUp = Channel::bus()->isUp();
+    bool controllerIsUp = Channel::controller()->isUp();
+    int round = 0;
+    QStringList waiting; // ids that the present round has not run yet
 };
 
 TaskNetworkManager::TaskNetworkManager(QObject* parent) : QObject(parent), d(new Private) {
-    for (Channel* channel : {Channel::bus(), Channel::controller()})
-        connect(channel, &Channel::upChanged, this, [this] { d->followLinks(); });
+    connect(Channel::bus(), &Channel::upChanged, this, [this](bool up) { d->follow(&d->busIsUp, up); });
+    connect(Channel::controller(), &Channel::upChanged, this, [this](bool up) { d->follow(&d->controllerIsUp, up); });
 }
 
 TaskNetworkManager::~TaskNetworkManager() = default;
@@ -57,55 +53,59 @@ bool TaskNetworkManager::Private::remove(enTaskType type, const QString& id) {
     const int index = indexOf(type, id);
     if (index < 0)
         return false;
-    entries.removeAt(index);
+    // A copy: with the task may go who takes back another one.
+    const Entry gone = entries.takeAt(index);
+    QObject::disconnect(gone.ownersEnd);
     return true;
 }
 
-void TaskNetworkManager::Private::followLinks() {
-    const bool up = linksAreUp();
-    if (up == wereUp)
-        return;
-    wereUp = up;
-    runAll(up ? TaskOnConnect : TaskOnDisconnect);
+void TaskNetworkManager::Private::follow(bool* link, bool up) {
+    const bool wereUp = busIsUp && controllerIsUp;
+    *link = up;
+    const bool areUp = busIsUp && controllerIsUp;
+    if (areUp != wereUp)
+        runAll(areUp ? TaskOnConnect : TaskOnDisconnect);
 }
 
-// A task may take itself or others out, register new ones and pull a link.
+// A task may take itself or others out, register new ones and pull a link: that begins a round of its own, and what was
+// still to run in this one does not.
 void TaskNetworkManager::Private::runAll(enTaskType type) {
-    QStringList waiting;
-    for (const Entry& entry : entries) {
+    const int mine = ++round;
+    waiting.clear();
+    for (const Entry& entry : qAsConst(entries)) {
         if (entry.type == type)
             waiting << entry.id;
     }
-    while (!waiting.isEmpty())
-        run(type, QString(waiting.first()), &waiting);
+    while (round == mine && !waiting.isEmpty())
+        run(type, QString(waiting.first()));
 }
 
-void TaskNetworkManager::Private::run(enTaskType type, const QString& id, QStringList* waiting) {
-    waiting->removeAll(id);
+void TaskNetworkManager::Private::run(enTaskType type, const QString& id) {
+    const int mine = round;
+    waiting.removeAll(id);
     const int index = indexOf(type, id);
-    if (index < 0)
-        return;
-    const Entry entry = entries.at(index);
-    for (const QString& earlier : entry.after) {
-        if (waiting->contains(earlier))
-            run(type, earlier, waiting);
+    const QStringList after = index < 0 ? QStringList() : entries.at(index).after;
+    for (const QString& earlier : after) {
+        if (round == mine && waiting.contains(earlier))
+            run(type, earlier);
     }
-    guarded(GuardedCall::NetworkTask, id, [&] { entry.task([](bool, const QVariant&) {}); });
+    // Those that ran before it may have taken it out.
+    const int now = indexOf(type, id);
+    if (round != mine || now < 0)
+        return;
+    const Task task = entries.at(now).task;
+    guarded(GuardedCall::NetworkTask, id, [&] { task([](bool, const QVariant&) {}); });
 }
 
 void TaskNetworkManager::registerTask(enTaskType type, QObject* owner, const QString& id, Task task,
                                       const QStringList& after) {
     d->remove(type, id);
-    d->entries.append({type, owner, id, std::move(task), after});
+    QMetaObject::Connection ownersEnd;
     if (owner)
-        connect(owner, &QObject::destroyed, this, [this, type, id](const QObject* gone) {
-            const int index = d->indexOf(type, id);
-            if (index >= 0 && d->entries.at(index).owner == gone)
-                d->entries.removeAt(index);
-        });
-    QStringList none;
-    if (type == TaskOnConnect && linksAreUp())
-        d->run(type, id, &none);
+        ownersEnd = connect(owner, &QObject::destroyed, this, [this, type, id] { d->remove(type, id); });
+    d->entries.append({type, id, std::move(task), after, ownersEnd});
+    if (type == TaskOnConnect && d->busIsUp && d->controllerIsUp)
+        d->run(type, id);
 }
 
 bool TaskNetworkManager::unRegisterTask(enTaskType type, const QString& id) {

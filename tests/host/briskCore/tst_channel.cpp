@@ -1,8 +1,10 @@
 #include "brisk/channel.h"
+#include "brisk/traffic.h"
 #include "pendanttest/fakelink.h"
 
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 
 #include <memory>
 
@@ -31,6 +33,9 @@ private slots:
     void withoutALinkItIsDownAndSendsNothing();
     void aLinkThatIsUpBringsItUp();
     void goingUpAndDownIsTold();
+    void changesAreToldOneAfterTheOther();
+    void aNewLinkIsToldOfAsOneThatCameUp();
+    void aLinkThatGoesDownEndsTheWaiting();
     void aLinkThatIsDeletedCountsAsDown();
     void aLinkThatWasTakenAwayIsHeardNoMore();
     void eachMessageHasANumberOfItsOwn();
@@ -44,6 +49,9 @@ private slots:
     void aPostedQuestionIsAnsweredOnceOnly();
     void afterItsTimeAPostedAnswerIsDropped();
     void whatWasPostedIsForgottenWhenTheLinkGoesDown();
+    void anAnswerInTimeWaitsForTheEventLoop();
+    void whatIsPostedAllTheTimeTimesOutAllTheSame();
+    void aQuestionInTheMiddleOfAnotherTakesNothingFromIt();
     void deliveriesAndNoticesAreHandedOn();
 };
 
@@ -93,6 +101,44 @@ void Channels::goingUpAndDownIsTold() {
     QCOMPARE(link.sent.size(), 1);
 }
 
+void Channels::changesAreToldOneAfterTheOther() {
+    Channel channel("bus");
+    FakeLink link(&channel);
+    link.setUp(false);
+    QList<bool> first;
+    QList<bool> second;
+    QObject context;
+    connect(&channel, &Channel::upChanged, &context, [&](bool up) {
+        first << up;
+        link.setUp(false);
+    });
+    connect(&channel, &Channel::upChanged, &context, [&](bool up) { second << up; });
+    link.setUp(true);
+    QCOMPARE(first, QList<bool>({true, false}));
+    QCOMPARE(second, QList<bool>({true, false}));
+    QVERIFY(!channel.isUp());
+}
+
+void Channels::aNewLinkIsToldOfAsOneThatCameUp() {
+    Channel channel("bus");
+    FakeLink first(&channel);
+    QSignalSpy up(&channel, &Channel::upChanged);
+    FakeLink second(&channel);
+    QCOMPARE(up.size(), 2);
+    QCOMPARE(up.at(0).first().toBool(), false);
+    QCOMPARE(up.at(1).first().toBool(), true);
+}
+
+void Channels::aLinkThatGoesDownEndsTheWaiting() {
+    Channel channel("bus");
+    FakeLink link(&channel);
+    link.reply = [&](const Message&) -> Content {
+        link.setUp(false);
+        return nullptr;
+    };
+    QCOMPARE(channel.ask(nullptr, messageOf("io"), 10000).state, Channel::Reply::Down);
+}
+
 void Channels::aLinkThatIsDeletedCountsAsDown() {
     class Vanishing : public brisk::standin::Link {
     public:
@@ -119,6 +165,7 @@ void Channels::aLinkThatWasTakenAwayIsHeardNoMore() {
     QSignalSpy up(&channel, &Channel::upChanged);
     first.deliver("io", 1);
     first.setUp(false);
+    QCOMPARE(channel.link(), &second);
     QCOMPARE(delivered.size(), 0);
     QCOMPARE(up.size(), 0);
 }
@@ -245,6 +292,47 @@ void Channels::whatWasPostedIsForgottenWhenTheLinkGoesDown() {
     emit link.answered({link.sent.first().id, contentOf(QVariant("old"))});
     QCoreApplication::processEvents();
     QCOMPARE(answered.size(), 0);
+}
+
+void Channels::anAnswerInTimeWaitsForTheEventLoop() {
+    Channel channel("controller");
+    FakeLink link(&channel);
+    link.answers = false;
+    QSignalSpy answered(&channel, &Channel::answered);
+    channel.post(nullptr, messageOf("io"), 20);
+    emit link.answered({link.sent.first().id, contentOf(QVariant("in time"))});
+    QTest::qSleep(40);
+    QCoreApplication::processEvents();
+    QCOMPARE(answered.size(), 1);
+}
+
+void Channels::whatIsPostedAllTheTimeTimesOutAllTheSame() {
+    Channel channel("controller");
+    FakeLink link(&channel);
+    link.answers = false;
+    int timeOuts = 0;
+    QObject context;
+    connect(brisk::standin::Traffic::instance(), &brisk::standin::Traffic::recorded, &context,
+            [&](const brisk::standin::TrafficEntry& entry) { timeOuts += entry.kind == "time-out"; });
+    QTimer poll;
+    connect(&poll, &QTimer::timeout, &channel, [&] { channel.post(nullptr, messageOf("io"), 5); });
+    poll.start(100);
+    QTRY_VERIFY_WITH_TIMEOUT(timeOuts > 0, 5000);
+}
+
+void Channels::aQuestionInTheMiddleOfAnotherTakesNothingFromIt() {
+    Channel channel("bus");
+    FakeLink link(&channel);
+    QString inner;
+    link.reply = [&](const Message& message) {
+        if (message.key == "outer")
+            inner = channel.ask(nullptr, messageOf("inner"), 10).content->getString();
+        return contentOf(QVariant(message.key));
+    };
+    QCOMPARE(channel.ask(nullptr, messageOf("outer"), 10).content->getString(), QString("outer"));
+    QCOMPARE(inner, QString("inner"));
+    link.queue({0, nullptr});
+    QCOMPARE(channel.ask(nullptr, messageOf("next"), 10).content->getString(), QString("next"));
 }
 
 void Channels::deliveriesAndNoticesAreHandedOn() {

@@ -27,6 +27,9 @@ private slots:
     void aNodeIsSentInTheOrderOfItsChildren();
     void aReplyNodeIsUsedAgainByItsCommand();
     void aUsedReplyNodeComesBackEmpty();
+    void keysThatLookAlikeHaveNodesOfTheirOwn();
+    void aReplyMayBeDeletedByWhoListensToIt();
+    void aNullNodeIsNotSent();
     void aNodeThatWasSentMayDie();
     void withoutAnAnswerTheReplyIsEmpty();
     void aFarSideThatAnswersNothingGivesNull();
@@ -79,6 +82,16 @@ void RelayCalls::whoeverHearsOfConnectedFindsTheBusUp() {
 
 void RelayCalls::withTheLinkDownEveryAnswerIsAnEmptyNode() {
     ModuleObject request("request");
+    {
+        FakeLink link;
+        link.answerWith(contentOf(QVariant(QJsonArray{1, 2})));
+        for (const char* key : {"a", "c"}) {
+            relay()->get(nullptr, key);
+            relay()->get(nullptr, key, "b");
+            relay()->execCommand(nullptr, key);
+        }
+        relay()->execPluginCommand(nullptr, "ServiceAPI.plugin_0", "ServiceAPI.plugin", QJsonArray{1});
+    }
     for (ModuleObject* reply :
          {relay()->get(nullptr, "a"), relay()->get(nullptr, "a", "b"), relay()->execCommand(nullptr, "c"),
           relay()->execCommand(nullptr, "c", 1), relay()->execCommand(nullptr, "c", &request),
@@ -166,6 +179,33 @@ void RelayCalls::aUsedReplyNodeComesBackEmpty() {
     QVERIFY(relay()->execCommand(nullptr, "move.reset")->exportToJson(true).isNull());
     delete relay()->execCommand(nullptr, "move.reset");
     QVERIFY(relay()->execCommand(nullptr, "move.reset")->isEmpty());
+}
+
+void RelayCalls::keysThatLookAlikeHaveNodesOfTheirOwn() {
+    FakeLink link;
+    link.reply = [](const Message& message) { return contentOf(QVariant(message.key + '|' + message.subKey)); };
+    const ModuleObject* part = relay()->get(nullptr, "io.do", "lamp");
+    const ModuleObject* whole = relay()->get(nullptr, "io.do.lamp");
+    QCOMPARE(part->getString(), QString("io.do|lamp"));
+    QCOMPARE(whole->getString(), QString("io.do.lamp|"));
+    const ModuleObject* custom = relay()->execPluginCommand(nullptr, "weld", "ServiceAPI.plugin", 1);
+    QVERIFY(relay()->execCommand(nullptr, "weld") != custom);
+    QCOMPARE(custom->getString(), QString("weld|ServiceAPI.plugin"));
+}
+
+void RelayCalls::aReplyMayBeDeletedByWhoListensToIt() {
+    FakeLink link;
+    link.answerWith(contentOf(QVariant(1)));
+    ModuleObject* reply = relay()->execCommand(nullptr, "fragile");
+    connect(reply, &ModuleObject::changed, this, [reply] { delete reply; });
+    QVERIFY(!relay()->execCommand(nullptr, "fragile"));
+    QCOMPARE(relay()->execCommand(nullptr, "fragile")->getInt(), 1);
+}
+
+void RelayCalls::aNullNodeIsNotSent() {
+    FakeLink link;
+    relay()->set(nullptr, "io", static_cast<ModuleObject*>(nullptr));
+    QCOMPARE(link.sent.size(), 0);
 }
 
 void RelayCalls::aNodeThatWasSentMayDie() {

@@ -32,6 +32,8 @@ private slots:
     void aDeliveryIsAnnouncedOnce();
     void theWatchNodeHoldsWhatWasDelivered();
     void theValueBeforeIsTold();
+    void nothingAtAllIsAnnouncedAsNoValue();
+    void theWatchNodeMayBeDeletedByWhoListensToWhatItHeld();
     void whatNobodyWatchesIsNotAnnounced();
     void watchesSurviveTheLink();
     void watchesMadeWithTheLinkDownAreSentWhenItComesUp();
@@ -137,6 +139,24 @@ void RelayWatching::theValueBeforeIsTold() {
     QSignalSpy changed(relay()->watchNode("io"), &ModuleObject::changed);
     m_link->deliver("io", 2);
     QCOMPARE(changed.first().at(1), QVariant(1));
+}
+
+void RelayWatching::nothingAtAllIsAnnouncedAsNoValue() {
+    relay()->watch(nullptr, "io", true);
+    m_link->deliver("io", QJsonArray{1});
+    QSignalSpy changed(relay()->watchNode("io"), &ModuleObject::changed);
+    emit m_link->delivered("io", nullptr);
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(changed.first().first(), QVariant());
+}
+
+void RelayWatching::theWatchNodeMayBeDeletedByWhoListensToWhatItHeld() {
+    relay()->watch(nullptr, "io", true);
+    m_link->deliver("io", QJsonObject{{"di1", true}});
+    ModuleObject* node = relay()->watchNode("io");
+    connect(node->c("di1"), &QObject::destroyed, this, [node] { delete node; });
+    m_link->deliver("io", QJsonObject{{"di1", false}});
+    QVERIFY(relay()->watchNode("io"));
 }
 
 void RelayWatching::whatNobodyWatchesIsNotAnnounced() {

@@ -28,6 +28,7 @@ private slots:
     void theSenderIsNamed();
     void anAnswerTellsHowLongItTook();
     void aTimeOutIsTold();
+    void whatIsPostedWhenTheLinkGoesDownIsTold();
     void anAnswerThatCameTooLateIsTold();
     void aPostedAnswerIsTold();
     void aDeliveryTellsHowLongItsListenersTook();
@@ -114,7 +115,7 @@ void TrafficOfChannels::anAnswerTellsHowLongItTook() {
     QCOMPARE(m_entries.size(), 2);
     QCOMPARE(m_entries.at(1).kind, QString("answer"));
     QCOMPARE(m_entries.at(1).direction, TrafficEntry::Direction::In);
-    QCOMPARE(m_entries.at(1).key, QString("io"));
+    QCOMPARE(m_entries.at(1).key, QString("io.di1"));
     QCOMPARE(m_entries.at(1).value, QJsonValue(QJsonObject{{"ok", true}}));
     QVERIFY(m_entries.at(1).durationMs >= 5);
 }
@@ -126,6 +127,16 @@ void TrafficOfChannels::aTimeOutIsTold() {
     channel.ask(nullptr, {0, Verb::Get, "io", QString(), nullptr, true}, 10);
     QCOMPARE(m_entries.last().kind, QString("time-out"));
     QVERIFY(m_entries.last().durationMs >= 0);
+}
+
+void TrafficOfChannels::whatIsPostedWhenTheLinkGoesDownIsTold() {
+    Channel channel("controller");
+    FakeLink link(&channel);
+    link.answers = false;
+    channel.post(nullptr, {0, Verb::Request, "a.b", QString(), nullptr, true}, 1000);
+    link.setUp(false);
+    QCOMPARE(m_entries.last().kind, QString("time-out"));
+    QCOMPARE(m_entries.last().key, QString("a.b"));
 }
 
 void TrafficOfChannels::anAnswerThatCameTooLateIsTold() {

@@ -49,7 +49,10 @@ private slots:
     void aResponseThatIsNotWaitedForIsKeptToo();
     void aRequestThatTimedOutLeavesTheResponseAlone();
     void aFarSideThatAnswersNothingGivesNullAndKeepsTheResponse();
+    void aRequestWithoutContentIsKeptAsSuch();
+    void aReplyMayBeDeletedByItsUser();
     void whatAListenerThrowsIsHandedToTheHandler();
+    void whatAListenerToAResponseThrowsIsHandedToTheHandler();
 };
 
 void ControllerRequests::withTheLinkDownARequestIsRefused() {
@@ -61,6 +64,11 @@ void ControllerRequests::withTheLinkDownARequestIsRefused() {
 }
 
 void ControllerRequests::withTheLinkDownAReplyIsEmpty() {
+    {
+        FakeLink link(Channel::controller());
+        link.answerWith(contentOf(QVariant(QJsonArray{1})));
+        manager()->execRequest("project", "list", QJsonValue(), true, 100);
+    }
     QVERIFY(manager()->execRequest("project", "list", QJsonValue(), true, 100)->isEmpty());
     QVERIFY(manager()->execRequest("project.list", nullptr, true, 100)->isEmpty());
     QVERIFY(manager()->execRequest("project.list", nullptr, false, 100)->isEmpty());
@@ -168,6 +176,41 @@ void ControllerRequests::aFarSideThatAnswersNothingGivesNullAndKeepsTheResponse(
     link.answerWith(nullptr);
     QVERIFY(!manager()->execRequest("null", "it", QJsonValue(), true, 100));
     QCOMPARE(response("null.it"), QJsonValue(1));
+}
+
+void ControllerRequests::aRequestWithoutContentIsKeptAsSuch() {
+    FakeLink link(Channel::controller());
+    manager()->request("kept", "it", QJsonObject{{"a", 1}}, 100);
+    manager()->request("kept.it", nullptr, 100);
+    QCOMPARE(manager()->cmdItemMobj("request", "kept.it")->exportToJson(true), QJsonValue());
+    QVERIFY(manager()->cmdItemMobj("request", "kept.it") != manager()->cmdItemMobj("response", "kept.it"));
+    QCOMPARE(manager()->cmdItemMobj("state", "kept.it"), manager()->cmdItemMobj("state", "kept.it"));
+}
+
+void ControllerRequests::aReplyMayBeDeletedByItsUser() {
+    FakeLink link(Channel::controller());
+    link.answerWith(contentOf(QVariant(1)));
+    delete manager()->execRequest("deleted", "it", QJsonValue(), true, 100);
+    QCOMPARE(manager()->execRequest("deleted", "it", QJsonValue(), true, 100)->getInt(), 1);
+}
+
+void ControllerRequests::whatAListenerToAResponseThrowsIsHandedToTheHandler() {
+    QStringList names;
+    brisk::standin::setThrownHandler([&](GuardedCall call, const QString& name, const std::exception_ptr&) {
+        QCOMPARE(call, GuardedCall::Response);
+        names << name;
+    });
+    FakeLink link(Channel::controller());
+    link.answerWith(contentOf(QVariant(1)));
+    QObject context;
+    connect(manager()->cmdItemMobj("response", "loud.one"), &ModuleObject::changed, &context,
+            [] { throw std::runtime_error("boom"); });
+    QCOMPARE(manager()->execRequest("loud", "one", QJsonValue(), true, 100)->getInt(), 1);
+    manager()->request("loud", "one", QJsonValue(), 1000);
+    emit link.answered({link.sent.last().id, contentOf(QVariant(2))});
+    QCoreApplication::processEvents();
+    brisk::standin::setThrownHandler({});
+    QCOMPARE(names, QStringList({"loud.one", "loud.one"}));
 }
 
 void ControllerRequests::whatAListenerThrowsIsHandedToTheHandler() {

@@ -34,6 +34,11 @@ private slots:
     void tasksThatNameEachOtherRunOnce();
     void aTaskThatIsTakenBackDoesNotRun();
     void aTaskTakesItselfBack();
+    void aTaskThatIsRegisteredWhileTheLinkComesUpRunsOnce();
+    void aTaskThatIsRegisteredAgainBeforeItsTurnRunsOnce();
+    void aTaskThatPullsALinkEndsTheRound();
+    void aTaskThatIsTakenOutByAnotherDoesNotRun();
+    void aLinkThatIsPulledAndComesBackIsTwoChanges();
     void anIdThatIsRegisteredAgainReplacesTheFirst();
     void theTypesHaveIdsOfTheirOwn();
     void aTaskGoesWithItsOwner();
@@ -192,6 +197,67 @@ void NetworkTasks::aTaskTakesItselfBack() {
     m_bus->setUp(false);
     m_bus->setUp(true);
     QCOMPARE(m_ran, QStringList({"once", "next", "next"}));
+}
+
+void NetworkTasks::aTaskThatIsRegisteredWhileTheLinkComesUpRunsOnce() {
+    m_bus->setUp(true);
+    QObject context;
+    connect(helm::ManagerHelper::instance()->controllerManager(), &helm::ControllerManager::rcConnected, &context,
+            [this] { add(TaskOnConnect, "late"); });
+    m_controller->setUp(true);
+    QCOMPARE(m_ran, QStringList("late"));
+}
+
+void NetworkTasks::aTaskThatIsRegisteredAgainBeforeItsTurnRunsOnce() {
+    m_ids << qMakePair(TaskOnConnect, QString("a"));
+    manager()->registerTask(TaskOnConnect, nullptr, "a",
+                            [this](const TaskNetworkManager::Done&) { add(TaskOnConnect, "b"); }, {});
+    add(TaskOnConnect, "b");
+    m_bus->setUp(true);
+    m_controller->setUp(true);
+    QCOMPARE(m_ran, QStringList("b"));
+}
+
+void NetworkTasks::aTaskThatPullsALinkEndsTheRound() {
+    m_ids << qMakePair(TaskOnConnect, QString("a"));
+    manager()->registerTask(TaskOnConnect, nullptr, "a",
+                            [this](const TaskNetworkManager::Done&) {
+                                m_ran << "a";
+                                m_bus->setUp(false);
+                            },
+                            {});
+    add(TaskOnConnect, "b");
+    add(TaskOnDisconnect, "b");
+    m_bus->setUp(true);
+    m_controller->setUp(true);
+    QCOMPARE(m_ran, QStringList({"a", "b"}));
+}
+
+void NetworkTasks::aTaskThatIsTakenOutByAnotherDoesNotRun() {
+    auto owner = std::make_unique<QObject>();
+    m_ids << qMakePair(TaskOnConnect, QString("first"));
+    manager()->registerTask(TaskOnConnect, nullptr, "first", [&](const TaskNetworkManager::Done&) { owner.reset(); },
+                            {});
+    manager()->unRegisterTask(TaskOnConnect, "needs");
+    add(TaskOnConnect, "needs", {"first"}, owner.get());
+    m_bus->setUp(true);
+    m_controller->setUp(true);
+    QCOMPARE(m_ran, QStringList());
+}
+
+void NetworkTasks::aLinkThatIsPulledAndComesBackIsTwoChanges() {
+    m_bus->setUp(true);
+    m_controller->setUp(true);
+    add(TaskOnDisconnect, "down");
+    add(TaskOnConnect, "up");
+    m_ran.clear();
+    QObject context;
+    connect(relay()->mobj()->c("connected"), &brisk::ModuleObject::changed, &context, [this](const QVariant& value) {
+        if (!value.toBool())
+            m_bus->setUp(true);
+    });
+    m_bus->setUp(false);
+    QCOMPARE(m_ran, QStringList({"down", "up"}));
 }
 
 void NetworkTasks::anIdThatIsRegisteredAgainReplacesTheFirst() {

@@ -19,7 +19,10 @@ public:
     explicit FakeLink(brisk::standin::Channel* channel = brisk::standin::Channel::bus()) : m_channel(channel) {
         m_channel->setLink(this);
     }
-    ~FakeLink() override { m_channel->setLink(nullptr); }
+    ~FakeLink() override {
+        if (m_channel->link() == this)
+            m_channel->setLink(nullptr);
+    }
 
     /// Answers what wants an answer; null content unless set. Messages that want none are only kept.
     std::function<brisk::standin::Content(const brisk::standin::Message&)> reply;

@@ -47,7 +47,8 @@ public:
     Reply ask(const QObject* sender, Message message, int timeoutMs);
 
 signals:
-    /// The link went up or down; isUp() says so already.
+    /// The link went up or down. Changes are told one after the other: who pulls the link while he is being told of its
+    /// coming up lets everybody hear of that first, and of its going down then.
     void upChanged(bool up);
     void answered(const QString& key, const brisk::standin::Content& content);
     void delivered(const QString& key, const brisk::standin::Content& content);

@@ -14,6 +14,7 @@ namespace standin {
 enum class GuardedCall {
     BusDelivery, ///< `name` is the bus key
     NetworkTask, ///< `name` is the id of the task
+    Response,    ///< `name` is the full command: what listens to its "response" item
     LinkChange   ///< `name` is the channel, "bus" or "controller": what listens to its going up or down
 };
 

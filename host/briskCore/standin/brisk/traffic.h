@@ -20,7 +20,7 @@ struct TrafficEntry {
     /// Out: "get", "set", "command", "execute", "watch", "unwatch", "request". In: "answer", "delivery", "time-out",
     /// "late" (an answer that came too late and was dropped), "notice".
     QString kind;
-    QString key; ///< with the sub-key, joined by "."
+    QString key; ///< with the sub-key, joined by "."; empty for a notice and for what came too late
     /// Who sent it: the object's name, or its class. Empty for nobody (null) and for what comes in.
     QString sender;
     QJsonValue value;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "brisk/export.h"
 #include "brisk/moduleobject.h"
 
 #include <QHash>
@@ -7,9 +8,10 @@
 #include <QString>
 
 namespace brisk {
+namespace standin {
 
 /// Nodes in no tree, one per key, kept until the end. A node that someone deleted is made anew.
-class NodesByKey {
+class BRISK_EXPORT NodesByKey {
 public:
     NodesByKey() = default;
     ~NodesByKey();
@@ -22,4 +24,5 @@ private:
     QHash<QString, QPointer<ModuleObject>> m_nodes;
 };
 
+} // namespace standin
 } // namespace brisk
