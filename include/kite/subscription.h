@@ -1,6 +1,7 @@
 #pragma once
 
 #include "kite/interfacemanager.h"
+#include "kite/pluginfunctions.h"
 
 #include <QString>
 #include <QVariant>
@@ -29,12 +30,17 @@ public:
     Subscription() = default;
 
     /// Subscribes by InterfaceManager::connectRelayData(), where the arguments are described. Inactive when that
-    /// refuses, and when `callback` is empty.
+    /// refuses, and when `callback` is empty; the message list says why then, under the plugin's name.
     Subscription(const QString& pluginName, const QString& serviceKey, std::function<void(const QVariant&)> callback,
                  const QString& connectKey)
         : m_pluginName(pluginName), m_serviceKey(serviceKey), m_connectKey(connectKey) {
-        if (callback)
-            m_active = kiteInterface()->connectRelayData(pluginName, serviceKey, std::move(callback), connectKey);
+        const bool isEmpty = !callback;
+        m_active =
+            !isEmpty && kiteInterface()->connectRelayData(pluginName, serviceKey, std::move(callback), connectKey);
+        if (isEmpty)
+            tellRefusal(QStringLiteral("its callback is empty"));
+        else if (!m_active)
+            tellRefusal(QStringLiteral("the plugin has one of that connect key already, or there is no such key"));
     }
 
     Subscription(Subscription&& other) noexcept { swap(other); }
@@ -66,6 +72,12 @@ public:
 
 private:
     Q_DISABLE_COPY(Subscription)
+
+    void tellRefusal(const QString& reason) const {
+        ThrowLog(
+            m_pluginName, ThrowWarning,
+            QStringLiteral("There is no subscription \"%1\" to \"%2\": %3.").arg(m_connectKey, m_serviceKey, reason));
+    }
 
     void swap(Subscription& other) noexcept {
         m_pluginName.swap(other.m_pluginName);

@@ -11,7 +11,14 @@ ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent) {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
 
+void ElidedLabel::setShownWhole(bool whole) {
+    m_shownWhole = whole;
+    updateGeometry();
+}
+
 QSize ElidedLabel::minimumSizeHint() const {
+    if (m_shownWhole)
+        return QLabel::sizeHint();
     return {fontMetrics().horizontalAdvance(QStringLiteral("XX...")), QLabel::minimumSizeHint().height()};
 }
 

@@ -12,12 +12,16 @@ public:
     explicit ElidedLabel(QWidget* parent = nullptr);
 
     QSize minimumSizeHint() const override;
+    /// Takes the room that the whole text needs.
+    void setShownWhole(bool whole);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
     void showToolTip();
+
+    bool m_shownWhole = false;
 };
 
 } // namespace pendant

@@ -55,6 +55,10 @@ void StatusItem::setTheme(const Theme& theme) {
     draw();
 }
 
+void StatusItem::setShownWhole(bool whole) {
+    m_value->setShownWhole(whole);
+}
+
 void StatusItem::setCaption(const QString& caption) {
     m_caption->setText(caption);
 }

@@ -20,6 +20,8 @@ public:
     StatusItem(const QString& name, const Theme& theme, QWidget* parent = nullptr);
 
     void setTheme(const Theme& theme);
+    /// Never cut, whatever else wants room.
+    void setShownWhole(bool whole);
     void setCaption(const QString& caption);
     /// Shows `text` with the line icon `icon`.
     void setValue(const QString& text, const QString& icon, State state);

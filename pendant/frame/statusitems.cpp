@@ -23,6 +23,9 @@ const QString workObject = QStringLiteral("workobject");
 StatusItems::StatusItems(tarp::StatusBar* bar, const Theme& theme) : QObject(bar), m_bar(bar), m_theme(theme) {
     for (const QString& name : {bus, controller, power, mode, tool, workObject})
         add(name);
+    // Whoever stands at the machine has to read these two, however many items plugins bring.
+    for (const QString& name : {bus, controller})
+        m_items[name]->setShownWhole(true);
     followLinks();
     follow(power, QStringLiteral("helm.r.power"));
     follow(mode, QStringLiteral("helm.r.mode"));

@@ -1,7 +1,10 @@
 #include "pendanttest/pendant.h"
+#include "pendanttest/robot.h"
 
 #include "brisk/log.h"
+#include "helm/managerhelper.h"
 #include "kite/kitemodule.h"
+#include "kite/subscription.h"
 
 #include <QDir>
 #include <QLabel>
@@ -211,6 +214,45 @@ private slots:
         QVERIFY(pendant.load(PLUGIN_fixture_twice));
         pendant.start();
         QCOMPARE(pendant.navigation(), QStringList("The registered one"));
+    }
+
+    void whatTheControllerRefusesIsAProblem() {
+        Pendant pendant;
+        pendanttest::Robot robot;
+        helm::ManagerHelper::instance();
+        robot.connectLinks();
+        kite::kiteInterface()->getRelayData("no.such");
+        robot.settle();
+        const QStringList problems = pendant.log().takeProblems();
+        QCOMPARE(problems.size(), 1);
+        QVERIFY(problems.first().contains("no.such"));
+        pendant.expectError("no.more");
+        kite::kiteInterface()->getRelayData("no.more");
+        robot.settle();
+    }
+
+    void aSubscriptionThatIsLeftBehindIsAProblem() {
+        Pendant pendant;
+        pendant.add<Demo>("demo");
+        pendant.start();
+        kite::kiteInterface()->connectRelayData(
+            "demo", "io.di", [](const QVariant&) {}, "inputs");
+        pendant.expectError("\"demo\" has left its subscription \"inputs\" behind");
+        pendant.close();
+        kite::kiteInterface()->disconnectRelayData("demo", "io.di", "inputs");
+    }
+
+    void aSubscriptionThatIsRefusedIsInTheMessageList() {
+        Pendant pendant;
+        pendant.add<Demo>("demo");
+        pendant.start();
+        const kite::Subscription first(
+            "demo", "io.di", [](const QVariant&) {}, "inputs");
+        const kite::Subscription second(
+            "demo", "io.do", [](const QVariant&) {}, "inputs");
+        QVERIFY(first && !second);
+        QCOMPARE(pendant.messages().last().source, QString("demo"));
+        QVERIFY(pendant.messages().last().text.startsWith("There is no subscription \"inputs\" to \"io.do\": "));
     }
 
     void theFilesOfALogAreReadInThePendantsFolder() {

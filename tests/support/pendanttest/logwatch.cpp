@@ -73,6 +73,12 @@ void LogWatch::expect(const QString& part) {
     expected.append(part);
 }
 
+void LogWatch::take(const QString& problem) {
+    const QMutexLocker lock(&mutex);
+    if (!takeExpectation(problem))
+        problems.append(problem);
+}
+
 QStringList LogWatch::lines() const {
     const QMutexLocker lock(&mutex);
     return seen;

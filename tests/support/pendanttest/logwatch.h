@@ -21,6 +21,9 @@ public:
     /// One line that contains `part` is expected; to be said before it comes. Say it once for each such line.
     void expect(const QString& part);
 
+    /// Takes `problem`, a sentence of somebody else who watches, for a line that is a problem unless it was expected.
+    void take(const QString& problem);
+
     /// All lines so far as they were handed to the message handler, colours included.
     QStringList lines() const;
     /// How many lines contain `part`.

@@ -6,6 +6,7 @@
 #include "brisk/modulemanager.h"
 #include "briskx/buttonpages.h"
 #include "briskx/navigationmodel.h"
+#include "kite/interfacemanager.h"
 #include "kite/pluginregister.h"
 
 #include <QApplication>
@@ -47,7 +48,13 @@ const helm::PhysicalButton* keyOf(const ButtonPage& page, const QString& name) {
 
 } // namespace
 
-Pendant::Pendant() : m_session(&m_guard, &m_loader) {}
+// What the controller refuses shows in the message list alone.
+Pendant::Pendant() : m_session(&m_guard, &m_loader) {
+    QObject::connect(MessageList::instance(), &MessageList::added, &m_frame, [this](const Message& message) {
+        if (message.source == QLatin1String("controller"))
+            m_log.take(message.text);
+    });
+}
 
 Pendant::~Pendant() {
     close();
@@ -71,9 +78,18 @@ void Pendant::close() {
     if (m_closed)
         return;
     m_closed = true;
+    const QList<pendant::PluginInfo> plugins = m_session.plugins();
     m_session.stop();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    for (const pendant::PluginInfo& plugin : plugins)
+        reportSubscriptionsOf(plugin.name);
     m_log.verify();
+}
+
+// Nobody ends them for a plugin that is gone: their callbacks reach into freed memory.
+void Pendant::reportSubscriptionsOf(const QString& plugin) {
+    for (const QString& key : kite::kiteInterface()->getConnectRelayKeyList(plugin))
+        m_log.take(QStringLiteral("The plugin \"%1\" has left its subscription \"%2\" behind.").arg(plugin, key));
 }
 
 bool Pendant::open(const QString& plugin) {

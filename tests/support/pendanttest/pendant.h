@@ -106,6 +106,8 @@ public:
 private:
     Q_DISABLE_COPY(Pendant)
 
+    void reportSubscriptionsOf(const QString& plugin);
+
     WorkingFolder m_folder;
     LogWatch m_log;
     pendant::ThrownHandler m_thrownHandler;
