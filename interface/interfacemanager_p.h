@@ -2,6 +2,7 @@
 
 #include "kite/interfacemanager.h"
 
+#include <QList>
 #include <QMap>
 #include <QMetaObject>
 #include <QString>
@@ -23,6 +24,10 @@ public:
     QMetaObject::Connection follow(const QString& serviceKey);
     /// Calls the subscribers of `serviceKey`.
     void dispatch(const QString& serviceKey, const QVariant& value);
+
+    /// Has the controller take variables out of the program that it holds.
+    /// \return false when it refuses
+    static bool hotRemoveVar(const QList<QString>& names);
 
     /// Subscriber name -> callback.
     QMap<QString, std::function<void(const QVariant&)>> callbackMap;

@@ -5,10 +5,12 @@
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QJsonValue>
+#include <QList>
 #include <QObject>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
+#include <QVector>
 
 #include <functional>
 
@@ -39,15 +41,18 @@ public:
     /// @name The links
     /// @{
 
-    /// Has the pendant call `handler` when the state of the links changes. A plugin that is loaded while the links are
-    /// up already never sees sigNetworkConnect() for that; with this it is called nevertheless.
+    /// Has the pendant call `handler` when both links have come up, or when that has ended. A plugin that is loaded
+    /// while the links are up already never sees sigNetworkConnect() for that; with this it is called nevertheless.
     ///
-    /// \param taskFlag true: call when the links come up, and at once when they are; false: call when they go down
+    /// \param taskFlag true: call when the second of the two links has come up, and at once when both are; false: call
+    ///                 when the first of them goes down, not again for the other one and not at once
     /// \param name     what the id is made of when `taskId` is empty
     /// \param owner    the registration ends with this object; not owned. Null for none: then you end it
     /// \param handler  called on the user-interface thread, each time. An empty one throws std::bad_function_call when
-    ///                 its time comes, into the pendant; what yours throws goes there as well
-    /// \param taskId   an id of your own; empty for a new one, `name` + "_" + a number that is unique in the process
+    ///                 its time comes, into the pendant, which reports it, as it does what yours throws
+    /// \param taskId   an id of your own; empty for a new one, `name` + "_" + a number that is unique in the process.
+    /// An
+    ///                 id that is in use for the same kind replaces that registration, whoever made it
     /// \return the id, for disconnectNetworkStatus()
     QString connectNetworkStatus(bool taskFlag, const QString& name, QObject* owner, std::function<void()> handler,
                                  const QString& taskId);
@@ -176,6 +181,131 @@ public:
     QJsonArray commandCustomData(QObject* sender, const QJsonObject& object);
     /// Sends `array`.
     QJsonArray commandCustomData(QObject* sender, const QJsonArray& array);
+
+    /// @}
+    /// @name Variables of the robot project
+    ///
+    /// The variables of the project that is open on the pendant, in its data tree below "orca.project.var._list". Names
+    /// are compared exactly and need not be unique. What is added, set or deleted is announced in the tree at once, so
+    /// it shows on the pendant's pages. Needs no link, save for deleting.
+    /// @{
+
+    /// Adds a variable at the end of the list. It does not look whether the name is taken: a second variable of the
+    /// same name stands beside the first. Ask getVarDataList() before.
+    /// \param value its value at first; its type is the type of the variable: "int", "double", "bool", "QString", ...
+    /// \param pers  true for a variable that keeps its value when the controller restarts
+    /// \return true
+    bool addVarData(const QString& name, QVariant value, bool pers);
+
+    /// Sets the value of every variable of that name. The type stays what it was when the variable was added.
+    /// \return true, also when there is none
+    bool updateVarData(const QString& name, QVariant value);
+
+    /// The point of that name as JSON: a point, not a variable. It searches the taught points, as
+    /// getPointObjDataByName() does. For a variable, take getNodeData() of "orca.project.var._list" and look for its
+    /// "name".
+    /// \return an empty object when there is no point of that name
+    QJsonObject getVarObjDataByName(const QString& name);
+
+    /// The names of the variables of that type, in the order of the list; a name that is there twice comes twice.
+    /// \param type as addVarData() makes it, with its case; empty for all
+    QStringList getVarDataList(const QString& type);
+
+    /// Deletes variables, on the controller first. Waits for its answer as long as the bus allows.
+    ///
+    /// For each name that is found, the controller is told to remove all of `names`. When it has confirmed, the pendant
+    /// reads its project again, and the variables are gone from the list a moment later, not yet when this returns.
+    ///
+    /// Variables of the types "socketserver", "socketconn" and "serials" are meant to be spared. That type is looked up
+    /// beneath the variable's name ("name.type") and not in its record, so do not rely on it: they are sent like others
+    /// when it is missing there, and always when they are named beside a variable that may go. Leave them out of
+    /// `names` yourself.
+    ///
+    /// \return false when the controller refuses one: nothing is deleted then. True otherwise, also when there was
+    ///         nothing to delete, and when no answer came because the bus is down or slow: ask getRobotConnected()
+    ///         before, and look at getVarDataList() a moment later
+    bool delVarData(const QList<QString>& names);
+    /// Deletes one variable.
+    bool delVarData(const QString& name);
+
+    /// @}
+    /// @name Persistent variables of the controller
+    ///
+    /// Variables that the controller keeps, reached over the service bus by their names. They work with a pendant whose
+    /// version ("helm.r.version" in the data tree) begins with 2.3, 3.0 or 3.1. None looks whether the bus is
+    /// connected: with the link down, nothing is sent and the answers are empty.
+    /// @{
+
+    /// Registers which persistent variables the controller is to list, in place of those that were registered.
+    /// \return 0 when it was handed to the bus, which tells nothing of its success; -240 when the pendant's version has
+    ///         no persistent variables: nothing is sent then
+    int registPERSVars(const QVector<QString>& names);
+
+    /// The registered variables as the controller lists them, in its order: a QVariantMap each. Waits for the answer as
+    /// long as the bus allows.
+    /// \return empty when none is registered, with another pendant version, and when no answer comes
+    QVector<QVariant> getRegistedPERSVars();
+
+    /// Reads the values of variables. Waits for the answer as long as the bus allows.
+    /// \return as many texts as `names`, in their order. Those that the controller did not answer are empty: with the
+    ///         link down, or with another pendant version, all are. An empty text may just as well be the value
+    QVector<QString> getValuesOfPERSVars(const QVector<QString>& names);
+
+    /// Sets variables. Does not wait, and does not tell whether the controller took the values: read them again.
+    /// \param values as many as `names`, in their order
+    /// \return 0 when it was handed to the bus. Nothing is sent with -1: the two differ in length; and with -240: the
+    ///         pendant's version has no persistent variables
+    int setValuesOfPERSVars(const QVector<QString>& names, const QVector<QVariant>& values);
+
+    /// @}
+    /// @name Points
+    ///
+    /// The taught points of the project that is open on the pendant, in its data tree below "orca.project.point._list".
+    /// Positions are in mm and angles in degrees, as the controller delivers them: the pose of the tool in the work
+    /// object, a about Z, b about the new Y, c about the newest X.
+    ///
+    /// Mind the case of names: getPointDataByName() and the JSON look-ups compare exactly; addCurrentPoint() and
+    /// changeCartPoint() ignore case.
+    /// @{
+
+    /// Teaches a point: asks the controller where the robot is and appends that to the list. Points of that name in
+    /// whatever case are removed first, so this replaces. Holds the thread for up to 1600 ms.
+    ///
+    /// The answer is not examined. When the controller does not answer in time, or refuses because it does not know the
+    /// tool or the work object, the old point is gone, the new one holds zeros, and the result is true. For a position
+    /// that matters, read it back (getPointObjDataByName()) and teach again when all joints, or the quaternion q1 to
+    /// q4, are 0: no pose has such a quaternion.
+    ///
+    /// \param isJoint true: the joints; false: the pose in the work object, with configuration
+    /// \param tool    the tool's name; \param wobj the work object's name
+    /// \return false when the controller link is down (or the pendant has no list of points): nothing is changed then
+    bool addCurrentPoint(const QString& name, bool isJoint, const QString& tool, const QString& wobj);
+
+    /// The pose of the first point of exactly that name: x, y, z in mm, a, b, c in degrees.
+    /// \return empty when there is no such point; six zeros when it is a joint point
+    QVector<double> getPointDataByName(const QString& name);
+
+    /// The first point of exactly that name as JSON; its position is under "value", "[0][0][0]".
+    /// \return an empty object when there is no such point
+    QJsonObject getPointObjDataByName(const QString& name);
+
+    /// The names of all points, in the order of the list; a name that is there twice comes twice.
+    QStringList getPointNameList();
+
+    /// Whether two names are equal, with their case. It does not look at the points: to compare positions, compare what
+    /// getPointDataByName() returns.
+    bool checkPointSame(const QString& first, const QString& second);
+
+    /// Changes position and Euler angles of the first point of that name in whatever case, and leaves all else of it:
+    /// also the quaternion and the configuration, which then no longer fit the angles. A joint point has no pose and
+    /// keeps what it has, but the change is announced all the same.
+    ///
+    /// The pendant is told of the change by an announcement that names the last point of the list, whichever was
+    /// changed. If you follow "orca.project.point.hot_update", read the whole list anew.
+    ///
+    /// \param pose x, y, z in mm, a, b, c in degrees. With fewer than six values, or when there is no such point,
+    ///             nothing happens
+    void changeCartPoint(const QString& name, const QVector<double>& pose);
 
     /// @}
 
