@@ -24,8 +24,16 @@ void BusTable::define(const QString& key, const QVariant& start) {
 
 void BusTable::defineContent(const QString& key, const Content& start) {
     m_checks.remove(key);
+    m_sources.remove(key);
     m_values.insert(key, copied(start));
-    announce(key);
+    tell(key);
+}
+
+void BusTable::defineComputed(const QString& key, const Source& source, const SetCheck& store) {
+    m_values.remove(key);
+    m_sources.insert(key, source);
+    onSet(key, store);
+    tell(key);
 }
 
 void BusTable::onCommand(const QString& key, const CommandHandler& handler) {
@@ -48,7 +56,7 @@ bool BusTable::write(const QString& key, const QString& subKey, const Content& v
     if (!node)
         return false;
     node->copyFrom(value.get());
-    announce(key);
+    tell(key);
     return true;
 }
 
@@ -57,6 +65,8 @@ bool BusTable::write(const QString& key, const QVariant& value) {
 }
 
 Content BusTable::value(const QString& key) const {
+    if (const Source source = m_sources.value(key))
+        return source();
     return contentOf(m_values.value(key).get());
 }
 
@@ -65,7 +75,7 @@ bool BusTable::isWatched(const QString& key, const QObject* watcher) const {
     return watchers != m_watchers.constEnd() && watchers->contains(watcher);
 }
 
-void BusTable::announce(const QString& key) {
+void BusTable::tell(const QString& key) {
     if (isWatched(key))
         emit delivered(key, value(key));
     emit written(key);

@@ -25,6 +25,9 @@ public:
     /// Looks at what somebody wants to set; a sentence that it returns refuses it.
     using SetCheck = std::function<QString(const QString& subKey, const Content& sent)>;
 
+    /// The value of a key that is not kept here.
+    using Source = std::function<Content()>;
+
     explicit BusTable(QObject* parent = nullptr);
 
     /// @name What the controller itself does
@@ -34,6 +37,11 @@ public:
     /// without its check; its command and who watches it stay. Delivers.
     void define(const QString& key, const QVariant& start);
     void defineContent(const QString& key, const Content& start);
+    /// Lets `key` have what `source` says at the moment; write() does nothing to it. What somebody sets is given to
+    /// `store`, which takes it or refuses it; without one it cannot be set.
+    void defineComputed(const QString& key, const Source& source, const SetCheck& store = nullptr);
+    /// Delivers the present value, as if it was written.
+    void tell(const QString& key);
     /// Lets `key` be commanded; an empty handler ends that. A key may have a value, a command or both.
     void onCommand(const QString& key, const CommandHandler& handler);
     /// Has `check` asked before a value from outside is stored under `key`; an empty one lets everything pass. What is
@@ -44,9 +52,12 @@ public:
     bool write(const QString& key, const QString& subKey, const Content& value);
     bool write(const QString& key, const QVariant& value);
 
+    /// The answer to a message that is refused: told by noticed() too. For handlers of commands.
+    Content refused(const QString& text);
+
     /// The present value; null when `key` has none.
     Content value(const QString& key) const;
-    bool hasValue(const QString& key) const { return m_values.contains(key); }
+    bool hasValue(const QString& key) const { return m_values.contains(key) || m_sources.contains(key); }
     bool hasCommand(const QString& key) const { return m_commands.contains(key); }
     /// By anybody.
     bool isWatched(const QString& key) const { return m_watchers.contains(key); }
@@ -76,13 +87,13 @@ signals:
     void noticed(const QString& text);
 
 private:
-    Content refused(const QString& text);
     Content unknown(const QString& key);
-    void announce(const QString& key);
+    QString taken(const QString& key, const QString& subKey, const Content& value);
 
     QHash<QString, Content> m_values;
     QHash<QString, CommandHandler> m_commands;
-    QHash<QString, SetCheck> m_checks;
+    QHash<QString, Source> m_sources;
+    QHash<QString, SetCheck> m_checks; // of one that is computed: what stores it
     QHash<QString, QSet<const QObject*>> m_watchers;
 };
 

@@ -16,11 +16,11 @@ QString unknownKey(const QString& key) {
 }
 
 // "io.do.3" with "io.do" at hand -> "io.do"
-QString keyAbove(const QString& key, const QHash<QString, Content>& values) {
+QString keyAbove(const QString& key, const BusTable& bus) {
     QString above = key;
     while (above.contains('.')) {
         above = above.section('.', 0, -2);
-        if (values.contains(above))
+        if (bus.hasValue(above))
             return above;
     }
     return QString();
@@ -35,9 +35,9 @@ QString subKeyMeant(const QString& key, const QString& above) {
 } // namespace
 
 Content BusTable::get(const QString& key, const QString& subKey) {
-    const Content whole = m_values.value(key);
-    if (!whole)
+    if (!hasValue(key))
         return unknown(key);
+    const Content whole = m_sources.contains(key) ? value(key) : m_values.value(key);
     const brisk::ModuleObject* node = whole->r(subKey);
     if (!node)
         return refused(QStringLiteral("The bus key %1 has no %2 below it.").arg(quoted(key), quoted(subKey)));
@@ -47,14 +47,26 @@ Content BusTable::get(const QString& key, const QString& subKey) {
 Content BusTable::set(const QString& key, const QString& subKey, const Content& value) {
     if (!hasValue(key))
         return unknown(key);
+    const QString reason = taken(key, subKey, value);
+    return reason.isEmpty() ? nullptr : refused(reason);
+}
+
+// A sentence when it was not.
+QString BusTable::taken(const QString& key, const QString& subKey, const Content& value) {
+    // A check may replace itself.
     const SetCheck check = m_checks.value(key);
+    const bool isComputed = m_sources.contains(key);
+    if (isComputed && !check)
+        return QStringLiteral("The bus key %1 cannot be set.").arg(quoted(key));
     const QString reason = check ? check(subKey, value) : QString();
     if (!reason.isEmpty())
-        return refused(reason);
-    if (write(key, subKey, value))
-        return nullptr;
-    return refused(QStringLiteral("The bus key %1 has no %2 below it: a list is made longer by its next item only.")
-                       .arg(quoted(key), quoted(subKey)));
+        return reason;
+    if (isComputed)
+        tell(key);
+    else if (!write(key, subKey, value))
+        return QStringLiteral("The bus key %1 has no %2 below it: a list is made longer by its next item only.")
+            .arg(quoted(key), quoted(subKey));
+    return QString();
 }
 
 Content BusTable::command(const QString& key, const Content& sent) {
@@ -89,7 +101,7 @@ Content BusTable::unknown(const QString& key) {
         return refused(QStringLiteral("The bus key %1 is a command and has no value. Define one in the cell file, "
                                       "under \"bus\".")
                            .arg(quoted(key)));
-    const QString above = keyAbove(key, m_values);
+    const QString above = keyAbove(key, *this);
     return refused(above.isEmpty() ? unknownKey(key) : subKeyMeant(key, above));
 }
 

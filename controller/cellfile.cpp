@@ -1,6 +1,8 @@
 #include "controller/cellfile.h"
 
-#include "controller/cellreader.h"
+#include "controller/cell/cellreader.h"
+#include "controller/project/project.h"
+#include "controller/robot/robot.h"
 
 #include <QFile>
 #include <QJsonDocument>
@@ -70,6 +72,10 @@ void take(const Cell& cell, VirtualController* controller) {
         controller->requests()->onRequest(entry.key(), answering(entry.value()));
     if (!cell.rules.isEmpty())
         controller->pluginCommands()->setHandler(following(asSent(cell.rules)));
+    controller->robot()->setModel(cell.robot);
+    controller->project()->start(cell.project);
+    controller->project()->refuseToRemove(cell.refusedRemovals);
+    controller->persistentVariables()->list(cell.persistent);
 }
 
 } // namespace

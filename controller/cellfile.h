@@ -13,8 +13,8 @@ public:
     /// The cell that is compiled in, to be given to load().
     static QString defaultPath();
 
-    /// Reads the cell at `path` into `controller`, which keeps what it knows already; of the same name the cell's
-    /// holds.
+    /// Reads the cell at `path` into `controller`. Keys, commands and requests that it knows already stay, of the same
+    /// name the cell's holds; robot, project and persistent variables are those of the cell alone.
     /// \param error says what is wrong, a sentence with file and place; untouched when all is well
     /// \return false when the file cannot be read or is no good; nothing of it is taken then
     static bool load(const QString& path, VirtualController* controller, QString* error);

@@ -20,6 +20,7 @@ void takeOut(Channel* channel, const EmbeddedLink* link) {
 } // namespace
 
 Embedded::Embedded(QObject* parent) : QObject(parent) {
+    connect(&m_controller, &VirtualController::remarked, &m_bus, &EmbeddedLink::remark);
     Channel::bus()->setLink(&m_bus);
     Channel::controller()->setLink(&m_controllerLink);
 }

@@ -111,7 +111,12 @@ void EmbeddedLink::passDelivery(const QString& key, const Content& content) {
 }
 
 void EmbeddedLink::passNotice(const QString& text) {
-    if (m_isUp && m_isHandling)
+    if (m_isHandling)
+        remark(text);
+}
+
+void EmbeddedLink::remark(const QString& text) {
+    if (m_isUp)
         later([this, text] { emit noticed(text); });
 }
 

@@ -37,6 +37,9 @@ public:
     /// How long the answers to the next messages take, in wall time; 0 at the start.
     void setDelayMs(int delayMs) { m_delayMs = qMax(0, delayMs); }
 
+    /// Tells `text` over the link as a notice.
+    void remark(const QString& text);
+
     bool isUp() const override { return m_isUp; }
     void setUp(bool up) override;
     void send(const Message& message) override;

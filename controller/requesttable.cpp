@@ -15,9 +15,12 @@ Content RequestTable::handle(const QString& command, const Content& sent) {
     // A handler may replace itself.
     if (const Handler handler = m_handlers.value(command))
         return handler(sent);
-    const QString text = QStringLiteral("The controller knows no request \"%1\". Give it an answer in the cell file, "
-                                        "under \"requests\".")
-                             .arg(command);
+    return refused(QStringLiteral("The controller knows no request \"%1\". Give it an answer in the cell file, "
+                                  "under \"requests\".")
+                       .arg(command));
+}
+
+Content RequestTable::refused(const QString& text) {
     emit noticed(text);
     return brisk::standin::refusal(text);
 }

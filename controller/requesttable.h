@@ -24,6 +24,9 @@ public:
     void onRequest(const QString& command, const Handler& handler);
     bool knows(const QString& command) const { return m_handlers.contains(command); }
 
+    /// The answer to a request that is refused: told by noticed() too. For handlers.
+    Content refused(const QString& text);
+
     /// The answer; of an unknown command a refusal, told by noticed() too.
     Content handle(const QString& command, const Content& sent);
 

@@ -11,10 +11,17 @@
 #include <QSet>
 #include <QString>
 
+#include <memory>
+
 namespace controller {
 
-/// A controller without a robot: it answers what comes over the bus and the controller link from its tables. What they
-/// do not hold it does not know. Its own key "controller.uptime" counts the seconds of its clock.
+class PersistentVariables;
+class Project;
+class Robot;
+
+/// A controller with a robot and a project: it answers what comes over the bus and the controller link from its tables.
+/// What they do not hold it does not know. Of its own are the keys "controller.uptime", which counts the seconds of
+/// its clock, and those of the robot, the project and the persistent variables.
 ///
 /// It lives on one thread, the user-interface thread of the pendant.
 class VirtualController : public QObject {
@@ -29,6 +36,15 @@ public:
     ChangingValues* changing() { return &m_changing; }
     RequestTable* requests() { return &m_requests; }
     PluginCommands* pluginCommands() { return &m_pluginCommands; }
+    Robot* robot();
+    Project* project();
+    PersistentVariables* persistentVariables();
+
+    /// Keeps the values of persistent variables in the file at `path`, which brings back those that it holds. To be
+    /// called when the cell is loaded.
+    /// \param error says what is wrong, a sentence; untouched when all is well
+    /// \return false when the file is there and is no good; it is left alone then, and nothing is kept
+    bool keepValuesIn(const QString& path, QString* error);
 
     /// Carries `message` out and gives the answer, also when the message wants none. `asker` is who watches when the
     /// message is a watch; null is an asker like any other.
@@ -40,8 +56,12 @@ signals:
     /// The message that is being handled was refused; a sentence for the people at the pendant. The same sentence is
     /// told once: a plugin may ask ten times a second.
     void noticed(const QString& text);
+    /// Something has come about that is no answer to a message; a sentence for the people at the pendant.
+    void remarked(const QString& text);
 
 private:
+    struct Machine;
+
     Content handleExecute(const Message& message);
     void tellOnce(const QString& text);
 
@@ -50,6 +70,7 @@ private:
     ChangingValues m_changing{&m_clock, &m_bus};
     RequestTable m_requests;
     PluginCommands m_pluginCommands;
+    std::unique_ptr<Machine> m_machine;
     QSet<QString> m_told;
 };
 

@@ -331,6 +331,58 @@ private slots:
         QVERIFY(!table->set("speed", "percent", content("102")));
     }
 
+    void aComputedKeyHasWhatItsSourceSays() {
+        int asked = 0;
+        table->defineComputed("count",
+                              [&] { return controller::copied(brisk::standin::contentOf(QVariant(++asked))); });
+        QVERIFY(table->hasValue("count"));
+        QCOMPARE(text(table->get("count", "")), QString("1"));
+        QCOMPARE(text(table->value("count")), QString("2"));
+        table->watch(this, "count", true);
+        QCOMPARE(told->delivered, QStringList());
+        table->tell("count");
+        QCOMPARE(told->delivered, QStringList("count=3"));
+        QVERIFY(!table->write("count", 9));
+    }
+
+    void aComputedKeyIsReadBelowToo() {
+        table->defineComputed("frame", [] { return content(R"({"tool": "torch"})"); });
+        QCOMPARE(text(table->get("frame", "tool")), QString("\"torch\""));
+        QVERIFY(!refusalOf(table->get("frame", "wobj")).isEmpty());
+        const QString hint = refusalOf(table->get("frame.tool", ""));
+        QVERIFY2(hint.contains("with the sub-key \"tool\""), qPrintable(hint));
+    }
+
+    void aComputedKeyIsSetByWhatStoresIt() {
+        QString stored;
+        table->defineComputed(
+            "frame", [&] { return brisk::standin::contentOf(QVariant(stored)); },
+            [&](const QString& subKey, const Content& sent) {
+                stored = subKey + '=' + sent->getString();
+                return sent->getString().isEmpty() ? QString("Name it.") : QString();
+            });
+        table->watch(this, "frame", true);
+        QVERIFY(!table->set("frame", "tool", content("\"torch\"")));
+        QCOMPARE(told->delivered, QStringList("frame=\"tool=torch\""));
+        QCOMPARE(refusalOf(table->set("frame", "", content("\"\""))), QString("Name it."));
+        QCOMPARE(told->delivered.size(), 1);
+    }
+
+    void aComputedKeyWithoutAStoreCannotBeSet() {
+        table->defineComputed("axes", [] { return content("[1]"); });
+        QCOMPARE(refusalOf(table->set("axes", "", content("2"))), QString("The bus key \"axes\" cannot be set."));
+        table->define("axes", 3);
+        QVERIFY(!table->set("axes", "", content("4")));
+        QCOMPARE(text(table->get("axes", "")), QString("4"));
+        table->defineComputed("axes", [] { return content("[1]"); });
+        QCOMPARE(text(table->get("axes", "")), QString("[1]"));
+    }
+
+    void aRefusalIsToldToo() {
+        QCOMPARE(refusalOf(table->refused("Too fast.")), QString("Too fast."));
+        QCOMPARE(told->noticed, QStringList("Too fast."));
+    }
+
 private:
     std::unique_ptr<BusTable> table;
     std::unique_ptr<Told> told;

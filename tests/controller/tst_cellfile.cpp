@@ -1,4 +1,5 @@
 #include "controller/cellfile.h"
+#include "controller/project/persistentvariables.h"
 
 #include "contents.h"
 
@@ -156,68 +157,77 @@ private slots:
                                << "object"
                                << "{\"bus\"";
         QTest::newRow("unknown section") << R"({"buss": {}})"
-                                         << "\"buss\""
+                                         << "buss: "
                                          << "\"bus\"";
         QTest::newRow("bus is an array") << R"({"bus": []})"
-                                         << "\"bus\""
+                                         << "bus: "
                                          << "Write an object";
         QTest::newRow("rules are an object") << R"({"pluginCommands": {}})"
-                                             << "\"pluginCommands\""
+                                             << "pluginCommands: "
                                              << "Write an array";
         QTest::newRow("empty name") << R"({"requests": {"": 1}})"
-                                    << "\"requests\""
+                                    << "requests: "
                                     << "empty";
         QTest::newRow("own key") << R"({"bus": {"controller.uptime": 1}})"
-                                 << "\"bus\" > \"controller.uptime\""
+                                 << "bus[\"controller.uptime\"]: "
                                  << "another name";
         QTest::newRow("own changing key") << R"({"changing": {"controller.x": 1}})"
-                                          << "\"controller.x\""
+                                          << "changing[\"controller.x\"]: "
                                           << "another name";
+        QTest::newRow("key of the robot") << R"({"bus": {"robot.axes": 1}})"
+                                          << "bus[\"robot.axes\"]: "
+                                          << "another name";
+        QTest::newRow("key of the mirror") << R"({"changing": {"mirror.x": {"count": {"everyS": 1}}}})"
+                                           << "changing[\"mirror.x\"]: "
+                                           << "another name";
+        QTest::newRow("own command") << R"({"commands": {"project.variable": 1}})"
+                                     << "commands[\"project.variable\"]: "
+                                     << "another name";
         QTest::newRow("key twice") << R"({"bus": {"a": 1}, "changing": {"a": {"count": {"everyS": 1}}}})"
-                                   << "\"changing\" > \"a\""
+                                   << "changing.a: "
                                    << "Remove one";
         QTest::newRow("no course") << R"({"changing": {"a": 5}})"
-                                   << "\"changing\" > \"a\""
+                                   << "changing.a: "
                                    << "\"wave\"";
         QTest::newRow("unknown course") << R"({"changing": {"a": {"saw": {}}}})"
-                                        << "\"changing\" > \"a\""
+                                        << "changing.a: "
                                         << "\"wave\"";
         QTest::newRow("two courses") << R"({"changing": {"a": {"wave": {}, "count": {}}}})"
-                                     << "\"changing\" > \"a\""
+                                     << "changing.a: "
                                      << "\"wave\"";
         QTest::newRow("misspelt") << R"({"changing": {"a": {"wave": {"min": 1, "max": 2, "period": 3}}}})"
-                                  << "\"changing\" > \"a\" > \"wave\""
+                                  << "changing.a.wave.period: "
                                   << "\"periodS\"";
         QTest::newRow("missing") << R"({"changing": {"a": {"wave": {"min": 1, "periodS": 3}}}})"
-                                 << "\"changing\" > \"a\" > \"wave\""
-                                 << "Add \"max\"";
+                                 << "changing.a.wave.max: "
+                                 << "Add a number";
         QTest::newRow("no number") << R"({"changing": {"a": {"wave": {"min": "1", "max": 2, "periodS": 3}}}})"
-                                   << "\"changing\" > \"a\" > \"wave\""
-                                   << "Add \"min\", a number";
+                                   << "changing.a.wave.min: "
+                                   << "Write a number";
         QTest::newRow("upside down") << R"({"changing": {"a": {"wave": {"min": 3, "max": 2, "periodS": 3}}}})"
-                                     << "\"changing\" > \"a\" > \"wave\""
+                                     << "changing.a.wave: "
                                      << "Exchange";
         QTest::newRow("too short") << R"({"changing": {"a": {"wave": {"min": 1, "max": 2, "periodS": 0}}}})"
-                                   << "\"changing\" > \"a\" > \"wave\""
+                                   << "changing.a.wave.periodS: "
                                    << "from 1 to 1000000 seconds";
         QTest::newRow("too often") << R"({"changing": {"a": {"count": {"everyS": -1}}}})"
-                                   << "\"changing\" > \"a\" > \"count\""
+                                   << "changing.a.count.everyS: "
                                    << "from 0.1 to 1000000 seconds";
         QTest::newRow("too long") << R"({"changing": {"a": {"count": {"everyS": 1e30}}}})"
-                                  << "\"changing\" > \"a\" > \"count\""
+                                  << "changing.a.count.everyS: "
                                   << "from 0.1 to 1000000 seconds";
         QTest::newRow("half a part") << R"({"changing": {"a": {"count": {"from": 0.5, "everyS": 1}}}})"
-                                     << "\"changing\" > \"a\" > \"count\""
+                                     << "changing.a.count.from: "
                                      << "whole number";
         QTest::newRow("no when") << R"({"pluginCommands": [{"when": 1, "answer": []}, {"answer": []}]})"
-                                 << "\"pluginCommands\", rule 2"
-                                 << "Add \"when\"";
+                                 << "pluginCommands[1].when: "
+                                 << "Add ";
         QTest::newRow("no answer") << R"({"pluginCommands": [{"when": 1}]})"
-                                   << "\"pluginCommands\", rule 1"
-                                   << "Add \"answer\"";
+                                   << "pluginCommands[0].answer: "
+                                   << "Add an array";
         QTest::newRow("answer is no array") << R"({"pluginCommands": [{"when": 1, "answer": 1}]})"
-                                            << "\"pluginCommands\", rule 1"
-                                            << "Add \"answer\", an array";
+                                            << "pluginCommands[0].answer: "
+                                            << "Write an array";
     }
 
     void aMistakeIsNamedWithItsPlace() {
@@ -231,6 +241,33 @@ private slots:
         QVERIFY2(error.contains(place), qPrintable(error));
         QVERIFY2(error.contains(remedy), qPrintable(error));
         QVERIFY2(error.endsWith('.'), qPrintable(error));
+    }
+
+    void robotAndProjectAreThoseOfTheLastCellAlone() {
+        VirtualController controller;
+        QVERIFY(take(controller, R"({"tools": {"torch": {}}, "pers": {"n": {"type": "int", "value": 1}},
+            "project": {"name": "weld", "variables": [{"name": "a", "type": "int", "value": 1}]}})"));
+        QCOMPARE(text(controller.bus()->get("robot.frames", "tools")), QString("[\"flange\",\"torch\"]"));
+        QCOMPARE(text(controller.bus()->get("mirror.project", "cur_project")), QString("\"weld\""));
+        QCOMPARE(text(controller.bus()->get("mirror.project", "var._list.#0.name")), QString("\"a\""));
+        QVERIFY(controller.persistentVariables()->contains("n"));
+        QVERIFY(take(controller, "{}"));
+        QCOMPARE(text(controller.bus()->get("robot.frames", "tools")), QString("[\"flange\"]"));
+        QCOMPARE(text(controller.bus()->get("mirror.project", "cur_project")), QString("\"project\""));
+        QCOMPARE(text(controller.bus()->get("mirror.project", "var._list")), QString("[]"));
+        QVERIFY(!controller.persistentVariables()->contains("n"));
+    }
+
+    void aBadCellLeavesRobotAndProject() {
+        VirtualController controller;
+        QVERIFY(take(controller, R"({"tools": {"torch": {}}, "project": {"name": "weld"}})"));
+        QString error;
+        QVERIFY(!CellFile::loadText(R"({"tools": {"grip": {}}, "project": {"name": "stack"},
+            "pers": {"n": {"type": "int", "value": 1}}, "refuse": {"remove": [5]}})",
+                                    "mine.json", &controller, &error));
+        QCOMPARE(text(controller.bus()->get("robot.frames", "tools")), QString("[\"flange\",\"torch\"]"));
+        QCOMPARE(text(controller.bus()->get("mirror.project", "cur_project")), QString("\"weld\""));
+        QVERIFY(!controller.persistentVariables()->contains("n"));
     }
 
     void aBadCellChangesNothing() {

@@ -90,6 +90,23 @@ private slots:
         QVERIFY(reply.content);
         QCOMPARE(reply.content->getInt(), 1);
     }
+    void aRemarkIsANoticeOfTheBusAlone() {
+        Embedded embedded;
+        QStringList noticed;
+        connect(Channel::bus(), &Channel::noticed, &embedded, [&](const QString& text) { noticed << "bus " + text; });
+        connect(Channel::controller(), &Channel::noticed, &embedded,
+                [&](const QString& text) { noticed << "controller " + text; });
+        emit embedded.controller()->remarked("Nobody hears it.");
+        embedded.bus()->setUp(true);
+        embedded.controllerLink()->setUp(true);
+        emit embedded.controller()->remarked("The arm does not reach further.");
+        emit embedded.controller()->remarked("The arm does not reach further.");
+        QCOMPARE(noticed, QStringList());
+        QCoreApplication::processEvents();
+        QCOMPARE(noticed, (QStringList{"bus The arm does not reach further.", "bus The arm does not reach further."}));
+        disconnect(Channel::bus(), nullptr, &embedded, nullptr);
+        disconnect(Channel::controller(), nullptr, &embedded, nullptr);
+    }
 };
 
 QTEST_GUILESS_MAIN(TestEmbedded)

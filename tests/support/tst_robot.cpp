@@ -143,6 +143,34 @@ private slots:
         QCOMPARE(robot.traffic().size(), 0);
     }
 
+    void theRobotSaysWhereItWasJoggedTo() {
+        Robot robot;
+        robot.loadDefaultCell();
+        robot.connectLinks();
+        robot.jog({controller::JogCommand::Cartesian, 2, -100}, 700);
+        robot.jog({controller::JogCommand::Joint, 5, 50}, 300);
+        const brisk::ModuleObject* frame = relay()->get(nullptr, "robot.frame");
+        const QJsonObject asked = frame->exportToJson(true).toObject();
+        const QJsonValue told = relay()->get(nullptr, "robot.position")->exportToJson(true);
+        brisk::ModuleObject* answer =
+            controllers()->execRequest("project", "vex_program.get_rob_pos", asked, true, 1600);
+        QVERIFY(answer);
+        QCOMPARE(answer->exportToJson(true), told);
+        QVERIFY(std::abs(answer->r("cartesian.pose.frame.pos.z")->getDouble() - 400) < 1e-6);
+        QVERIFY(std::abs(answer->r("joint.inner_pos.#5")->getDouble() - 10.8) < 1e-6);
+    }
+
+    void theReasonWhyJoggingEndedComesOverTheBus() {
+        Robot robot;
+        robot.connectLinks();
+        robot.jog({controller::JogCommand::Cartesian, 2, 100}, 10000);
+        QCOMPARE(robot.traffic().last().kind, QString("notice"));
+        QVERIFY(robot.traffic().last().value.toString().startsWith("Jogging along Z cannot go on: "));
+        robot.forgetTraffic();
+        robot.jog({controller::JogCommand::Cartesian, 2, 100}, 1000);
+        QCOMPARE(inShort(robot.traffic()).join(';'), QString("bus notice "));
+    }
+
     void answersCanBeSpoilt() {
         Robot robot;
         robot.connectLinks();

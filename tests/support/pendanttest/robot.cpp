@@ -1,6 +1,7 @@
 #include "pendanttest/robot.h"
 
 #include "controller/cellfile.h"
+#include "controller/robot/robot.h"
 
 #include <QCoreApplication>
 
@@ -9,14 +10,24 @@ using brisk::standin::TrafficEntry;
 
 namespace pendanttest {
 
+namespace {
+
+const qint64 renewedEveryMs = 200;
+
+} // namespace
+
 Robot::Robot() {
     QObject::connect(Traffic::instance(), &Traffic::recorded, &m_embedded,
                      [this](const TrafficEntry& entry) { m_traffic << entry; });
 }
 
 void Robot::loadDefaultCell() {
+    loadCell(controller::CellFile::defaultPath());
+}
+
+void Robot::loadCell(const QString& path) {
     QString error;
-    if (!controller::CellFile::load(controller::CellFile::defaultPath(), controller(), &error))
+    if (!controller::CellFile::load(path, controller(), &error))
         qFatal("%s", qPrintable(error));
 }
 
@@ -32,6 +43,15 @@ void Robot::bus(bool up) {
 
 void Robot::controllerLink(bool up) {
     m_embedded.controllerLink()->setUp(up);
+    settle();
+}
+
+void Robot::jog(const controller::JogCommand& command, qint64 ms) {
+    for (qint64 leftMs = ms; leftMs > 0; leftMs -= renewedEveryMs) {
+        controller()->robot()->jog(command);
+        step(qMin(leftMs, renewedEveryMs));
+    }
+    controller()->robot()->stop();
     settle();
 }
 

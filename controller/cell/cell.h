@@ -1,11 +1,15 @@
 #pragma once
 
 #include "controller/changingvalues.h"
+#include "controller/project/persistentvariables.h"
+#include "controller/project/projectstart.h"
+#include "controller/robot/robotmodel.h"
 
 #include <QJsonArray>
 #include <QJsonValue>
 #include <QMap>
 #include <QString>
+#include <QStringList>
 #include <QVector>
 
 namespace controller {
@@ -23,6 +27,11 @@ struct Cell {
     QMap<QString, QJsonValue> commands; ///< answers of bus commands
     QMap<QString, QJsonValue> requests; ///< answers of requests
     QVector<Rule> rules;                ///< the first that fits holds
+
+    RobotModel robot;
+    ProjectStart project;
+    QVector<PersistentVariable> persistent;
+    QStringList refusedRemovals; ///< names of variables
 };
 
 } // namespace controller

@@ -1,0 +1,52 @@
+#include "controller/cell/coursereader.h"
+
+#include <cmath>
+
+namespace controller {
+
+namespace {
+
+const double leastWaveS = 1;
+const double leastCountS = 0.1;
+const double mostS = 1000000;
+const double mostFrom = 1e9;
+
+qint64 toMs(double seconds) {
+    return qRound64(seconds * 1000);
+}
+
+qint64 msIn(const CellValue& json, double leastS) {
+    const double seconds = json.numberFrom(leastS, mostS, QStringLiteral("seconds"));
+    return toMs(qBound(leastS, seconds, mostS));
+}
+
+ChangingValues::Course waveIn(const CellValue& json) {
+    json.mayHave({"min", "max", "periodS"});
+    const double min = json["min"].number();
+    const double max = json["max"].number();
+    if (min > max)
+        json.fail(QStringLiteral("\"min\" is greater than \"max\". Exchange them."));
+    return wave(min, max, msIn(json["periodS"], leastWaveS));
+}
+
+ChangingValues::Course countIn(const CellValue& json) {
+    json.mayHave({"from", "everyS"});
+    const double from = json["from"].number(0);
+    if (std::abs(from) > mostFrom || std::floor(from) < from)
+        json["from"].fail(QStringLiteral("Write a whole number, of nine digits at most."));
+    return counter(json["from"].json().toInt(), msIn(json["everyS"], leastCountS));
+}
+
+} // namespace
+
+ChangingValues::Course courseIn(const CellValue& json) {
+    const QStringList names = json.json().toObject().keys();
+    if (names == QStringList{"wave"})
+        return waveIn(json["wave"]);
+    if (names == QStringList{"count"})
+        return countIn(json["count"]);
+    json.fail(QStringLiteral("Write {\"wave\": {...}} or {\"count\": {...}}."));
+    return nullptr;
+}
+
+} // namespace controller
