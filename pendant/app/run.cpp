@@ -15,6 +15,8 @@
 #include "plugins/pluginsession.h"
 #include "plugins/thrownhandler.h"
 #include "preferences.h"
+#include "project/framemirror.h"
+#include "project/projectmirror.h"
 #include "tour/tour.h"
 
 #include <QDir>
@@ -56,7 +58,8 @@ void connectSettings(Application& application, PendantWindow& window, SettingsPa
 bool loadCell(const Options& options, controller::Embedded& embedded) {
     const QString path = options.cellFile.isEmpty() ? controller::CellFile::defaultPath() : options.cellFile;
     QString error;
-    if (controller::CellFile::load(path, embedded.controller(), &error))
+    if (controller::CellFile::load(path, embedded.controller(), &error) &&
+        embedded.controller()->keepValuesIn(QDir::current().filePath(QStringLiteral("controller.json")), &error))
         return true;
     std::fprintf(stderr, "%s\n", qPrintable(error));
     return false;
@@ -68,12 +71,15 @@ int run(Application& application, const Options& options) {
     const Theme theme = themeFor(options);
     application.setLanguage(options.language.isEmpty() ? Preferences::language() : options.language);
     application.applyTheme(theme);
-    // The first of all: it goes when nobody can ask it any more.
+    const ThrownHandler thrownHandler;
+    // Goes when nobody can ask it any more.
     controller::Embedded embedded;
     if (!loadCell(options, embedded))
         return 2;
-    const ThrownHandler thrownHandler;
     sayWhere();
+    // Before the plugins, so that they find the project in the tree when they hear that the links are up.
+    const ProjectMirror projectMirror;
+    const FrameMirror frameMirror;
 
     PendantWindow window(theme);
     window.resize(options.size);
@@ -103,6 +109,9 @@ int run(Application& application, const Options& options) {
                   options.tourFolder);
         status = tour.run();
     }
+    // While the plugins are still there to hear of it.
+    embedded.controllerLink()->setUp(false);
+    embedded.bus()->setUp(false);
     session.stop();
     pages.start()->follow(nullptr, nullptr, {});
     return status;

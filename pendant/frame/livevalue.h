@@ -1,9 +1,8 @@
 #pragma once
 
-#include "brisk/moduleobject.h"
+#include "project/followednode.h"
 
 #include <QObject>
-#include <QPointer>
 #include <QString>
 
 #include <functional>
@@ -19,12 +18,11 @@ public:
     LiveValue(const QString& key, std::function<void(const QString&)> show, QObject* parent);
 
 private:
-    void follow();
+    void listen(brisk::ModuleObject* node);
     void read();
 
-    QString m_key;
+    FollowedNode m_node;
     std::function<void(const QString&)> m_show;
-    QPointer<brisk::ModuleObject> m_node;
 };
 
 } // namespace pendant

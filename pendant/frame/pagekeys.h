@@ -10,6 +10,15 @@ namespace pagekeys {
 inline QString start() {
     return QStringLiteral("orca.pendant.start");
 }
+inline QString jog() {
+    return QStringLiteral("orca.pendant.jog");
+}
+inline QString variables() {
+    return QStringLiteral("orca.pendant.variables");
+}
+inline QString points() {
+    return QStringLiteral("orca.pendant.points");
+}
 inline QString messages() {
     return QStringLiteral("orca.pendant.messages");
 }
@@ -18,7 +27,8 @@ inline QString settings() {
 }
 
 inline bool isOwn(const QString& key) {
-    return key == start() || key == messages() || key == settings();
+    return key == start() || key == jog() || key == variables() || key == points() || key == messages() ||
+           key == settings();
 }
 
 } // namespace pagekeys

@@ -4,9 +4,12 @@
 #include "briskx/navigationmodel.h"
 #include "frame/pagekeys.h"
 #include "frame/pendantwindow.h"
+#include "jogpage.h"
 #include "messagespage.h"
+#include "pointspage.h"
 #include "settingspage.h"
 #include "startpage.h"
+#include "variablespage.h"
 
 #include <QEvent>
 
@@ -24,6 +27,9 @@ OwnPages::OwnPages(PendantWindow* window)
     : QObject(window), m_window(window), m_start(new StartPage(window->theme())),
       m_settings(new SettingsPage(window->theme())) {
     add(pagekeys::start(), QStringLiteral("start"), m_start);
+    add(pagekeys::jog(), QStringLiteral("jog"), new JogPage(window->theme()));
+    add(pagekeys::variables(), QStringLiteral("variables"), new VariablesPage(window->theme()));
+    add(pagekeys::points(), QStringLiteral("points"), new PointsPage(window->theme()));
     add(pagekeys::messages(), QStringLiteral("messages"), new MessagesPage(window->theme()));
     add(pagekeys::settings(), QStringLiteral("settings"), m_settings);
     connect(m_start, &StartPage::openPressed, window, &PendantWindow::showPage);
@@ -49,7 +55,7 @@ void OwnPages::add(const QString& key, const QString& icon, Page* page) {
 void OwnPages::retranslate() {
     NavigationModel::instance()->declareGroup(ownGroup, tr("Pendant"), QStringLiteral("settings"));
     NavigationModel::instance()->declareGroup(QStringLiteral("robot.pack"), tr("Plugins"), QStringLiteral("plugin"));
-    const QStringList titles{tr("Start"), tr("Messages"), tr("Settings")};
+    const QStringList titles{tr("Start"), tr("Jog"), tr("Variables"), tr("Points"), tr("Messages"), tr("Settings")};
     for (int i = 0; i < m_entries.size(); ++i) {
         if (m_entries.at(i))
             m_entries.at(i)->set(this, QStringLiteral("title"), titles.at(i));

@@ -33,7 +33,7 @@ private:
     PendantWindow* m_window;
     StartPage* m_start;
     SettingsPage* m_settings;
-    QList<QPointer<brisk::ModuleObject>> m_entries; ///< start, messages, settings
+    QList<QPointer<brisk::ModuleObject>> m_entries; ///< in the order of their titles
 };
 
 } // namespace pendant

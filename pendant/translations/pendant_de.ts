@@ -120,6 +120,84 @@
     </message>
 </context>
 <context>
+    <name>pendant::JogPage</name>
+    <message>
+        <source>Jog</source>
+        <translation>Handverfahren</translation>
+    </message>
+    <message>
+        <source>Joints</source>
+        <translation>Achsen</translation>
+    </message>
+    <message>
+        <source>Cartesian</source>
+        <translation>Kartesisch</translation>
+    </message>
+    <message>
+        <source>External axes</source>
+        <translation>Zusatzachsen</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Tool</source>
+        <translation>Werkzeug</translation>
+    </message>
+    <message>
+        <source>Work object</source>
+        <translation>Werkobjekt</translation>
+    </message>
+    <message>
+        <source>No robot</source>
+        <translation>Kein Roboter</translation>
+    </message>
+    <message>
+        <source>The axes of the robot are jogged here. This controller tells of none: give its cell file a section “robot”.</source>
+        <translation>Hier werden die Achsen des Roboters von Hand verfahren. Diese Steuerung nennt keine: Ihre Zellendatei braucht einen Abschnitt „robot“.</translation>
+    </message>
+    <message>
+        <source>No connection to the robot</source>
+        <translation>Keine Verbindung zum Roboter</translation>
+    </message>
+    <message>
+        <source>The axes of the robot are jogged here as soon as the links to the bus and to the controller are up. “Links” in the developer dock (F12) brings them up.</source>
+        <translation>Hier werden die Achsen des Roboters von Hand verfahren, sobald die Verbindungen zum Bus und zur Steuerung stehen. „Verbindungen“ im Entwicklerfenster (F12) stellt sie her.</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::JogState</name>
+    <message>
+        <source>The robot is moving.</source>
+        <translation>Der Roboter bewegt sich.</translation>
+    </message>
+    <message>
+        <source>The robot stands still.</source>
+        <translation>Der Roboter steht.</translation>
+    </message>
+    <message>
+        <source>%1 is at its limit. Jog it the other way.</source>
+        <translation>%1 ist an der Grenze. In die andere Richtung verfahren.</translation>
+    </message>
+    <message>
+        <source>The arm does not reach further.</source>
+        <translation>Weiter reicht der Arm nicht.</translation>
+    </message>
+    <message>
+        <source>The arm is near a singularity. Jog the joints to get past it.</source>
+        <translation>Der Arm ist nahe einer Singularität. Mit den Achsen daran vorbeifahren.</translation>
+    </message>
+    <message>
+        <source>The robot stopped because the pendant was too busy to hold the key.</source>
+        <translation>Der Roboter hielt an: Das Bediengerät war zu beschäftigt, um die Taste zu halten.</translation>
+    </message>
+    <message>
+        <source>The robot stopped: %1</source>
+        <translation>Der Roboter hielt an: %1</translation>
+    </message>
+</context>
+<context>
     <name>pendant::KeyColumn</name>
     <message>
         <source>No keys in use</source>
@@ -357,6 +435,18 @@
         <source>Settings</source>
         <translation>Einstellungen</translation>
     </message>
+    <message>
+        <source>Jog</source>
+        <translation>Handverfahren</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variablen</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>Punkte</translation>
+    </message>
 </context>
 <context>
     <name>pendant::PendantWindow</name>
@@ -425,6 +515,110 @@
     <message>
         <source>%1 threw: %2</source>
         <translation>%1 warf eine Ausnahme: %2</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::PointValues</name>
+    <message>
+        <source>Joint</source>
+        <translation>Achsen</translation>
+    </message>
+    <message>
+        <source>Cartesian</source>
+        <translation>Kartesisch</translation>
+    </message>
+    <message>
+        <source>function %1, task %2</source>
+        <translation>Funktion %1, Task %2</translation>
+    </message>
+    <message>
+        <source>Joints, °</source>
+        <translation>Achsen, °</translation>
+    </message>
+    <message>
+        <source>External axes</source>
+        <translation>Zusatzachsen</translation>
+    </message>
+    <message>
+        <source>Position, mm</source>
+        <translation>Position, mm</translation>
+    </message>
+    <message>
+        <source>Angles, °</source>
+        <translation>Winkel, °</translation>
+    </message>
+    <message>
+        <source>Quaternion</source>
+        <translation>Quaternion</translation>
+    </message>
+    <message>
+        <source>Configuration</source>
+        <translation>Konfiguration</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::PointsModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Tool</source>
+        <translation>Werkzeug</translation>
+    </message>
+    <message>
+        <source>Work object</source>
+        <translation>Werkobjekt</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Beschreibung</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::PointsPage</name>
+    <message>
+        <source>Points</source>
+        <translation>Punkte</translation>
+    </message>
+    <message>
+        <source>Select a point to see all its values.</source>
+        <translation>Einen Punkt wählen, um alle seine Werte zu sehen.</translation>
+    </message>
+    <message>
+        <source>No points</source>
+        <translation>Keine Punkte</translation>
+    </message>
+    <message>
+        <source>The taught points of the robot project are listed here. They are loaded when the links come up; a plugin teaches one with addCurrentPoint() where the robot stands: jog it there first.</source>
+        <translation>Hier stehen die geteachten Punkte des Roboterprojekts. Sie werden geladen, sobald die Verbindungen stehen; ein Plugin teacht einen mit addCurrentPoint() dort, wo der Roboter steht: Ihn zuerst dorthin verfahren.</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::RecordsPage</name>
+    <message>
+        <source>Find by name</source>
+        <translation>Nach Namen suchen</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>Nothing of this name</source>
+        <translation>Nichts mit diesem Namen</translation>
+    </message>
+    <message>
+        <source>Clear the field above to see all.</source>
+        <translation>Das Feld oben leeren, um alle zu sehen.</translation>
     </message>
 </context>
 <context>
@@ -635,6 +829,14 @@
     <message>
         <source>A network task “%1” threw: %2</source>
         <translation>Eine Netzwerkaufgabe „%1“ hat geworfen: %2</translation>
+    </message>
+    <message>
+        <source>What listens to the answers to “%1” threw: %2</source>
+        <translation>Ein Empfänger der Antworten auf „%1“ hat geworfen: %2</translation>
+    </message>
+    <message>
+        <source>What listens to the link “%1” threw: %2</source>
+        <translation>Ein Empfänger der Verbindung „%1“ hat geworfen: %2</translation>
     </message>
 </context>
 <context>
@@ -1038,6 +1240,52 @@
     <message>
         <source>“%1” is no value of the type %2.</source>
         <translation>„%1“ ist kein Wert des Typs %2.</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::VariablesModel</name>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nein</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Persistent</source>
+        <translation>Dauerhaft</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Beschreibung</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::VariablesPage</name>
+    <message>
+        <source>Variables</source>
+        <translation>Variablen</translation>
+    </message>
+    <message>
+        <source>No variables</source>
+        <translation>Keine Variablen</translation>
+    </message>
+    <message>
+        <source>The variables of the robot project are listed here. They are loaded when the links come up; a plugin adds one with addVarData().</source>
+        <translation>Hier stehen die Variablen des Roboterprojekts. Sie werden geladen, sobald die Verbindungen stehen; ein Plugin legt eine mit addVarData() an.</translation>
     </message>
 </context>
 <context>

@@ -120,6 +120,84 @@
     </message>
 </context>
 <context>
+    <name>pendant::JogPage</name>
+    <message>
+        <source>Jog</source>
+        <translation>点动</translation>
+    </message>
+    <message>
+        <source>Joints</source>
+        <translation>关节</translation>
+    </message>
+    <message>
+        <source>Cartesian</source>
+        <translation>直角坐标</translation>
+    </message>
+    <message>
+        <source>External axes</source>
+        <translation>外部轴</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>速度</translation>
+    </message>
+    <message>
+        <source>Tool</source>
+        <translation>工具</translation>
+    </message>
+    <message>
+        <source>Work object</source>
+        <translation>工件坐标系</translation>
+    </message>
+    <message>
+        <source>No robot</source>
+        <translation>没有机器人</translation>
+    </message>
+    <message>
+        <source>The axes of the robot are jogged here. This controller tells of none: give its cell file a section “robot”.</source>
+        <translation>在这里点动机器人的各轴。此控制器未报告任何轴：请在其工作单元文件中加入“robot”一节。</translation>
+    </message>
+    <message>
+        <source>No connection to the robot</source>
+        <translation>未连接到机器人</translation>
+    </message>
+    <message>
+        <source>The axes of the robot are jogged here as soon as the links to the bus and to the controller are up. “Links” in the developer dock (F12) brings them up.</source>
+        <translation>与总线和控制器的连接建立后，即可在这里点动机器人的各轴。可在开发者窗口（F12）的“连接”页中建立连接。</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::JogState</name>
+    <message>
+        <source>The robot is moving.</source>
+        <translation>机器人正在运动。</translation>
+    </message>
+    <message>
+        <source>The robot stands still.</source>
+        <translation>机器人静止。</translation>
+    </message>
+    <message>
+        <source>%1 is at its limit. Jog it the other way.</source>
+        <translation>%1 已到极限，请反向点动。</translation>
+    </message>
+    <message>
+        <source>The arm does not reach further.</source>
+        <translation>机械臂已无法再伸展。</translation>
+    </message>
+    <message>
+        <source>The arm is near a singularity. Jog the joints to get past it.</source>
+        <translation>机械臂接近奇异点，请用关节点动绕过。</translation>
+    </message>
+    <message>
+        <source>The robot stopped because the pendant was too busy to hold the key.</source>
+        <translation>示教器过于繁忙，未能保持按键信号，机器人已停止。</translation>
+    </message>
+    <message>
+        <source>The robot stopped: %1</source>
+        <translation>机器人已停止：%1</translation>
+    </message>
+</context>
+<context>
     <name>pendant::KeyColumn</name>
     <message>
         <source>No keys in use</source>
@@ -357,6 +435,18 @@
         <source>Settings</source>
         <translation>设置</translation>
     </message>
+    <message>
+        <source>Jog</source>
+        <translation>点动</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>变量</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>点位</translation>
+    </message>
 </context>
 <context>
     <name>pendant::PendantWindow</name>
@@ -425,6 +515,110 @@
     <message>
         <source>%1 threw: %2</source>
         <translation>%1 抛出异常：%2</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::PointValues</name>
+    <message>
+        <source>Joint</source>
+        <translation>关节</translation>
+    </message>
+    <message>
+        <source>Cartesian</source>
+        <translation>直角坐标</translation>
+    </message>
+    <message>
+        <source>function %1, task %2</source>
+        <translation>函数 %1，任务 %2</translation>
+    </message>
+    <message>
+        <source>Joints, °</source>
+        <translation>关节，°</translation>
+    </message>
+    <message>
+        <source>External axes</source>
+        <translation>外部轴</translation>
+    </message>
+    <message>
+        <source>Position, mm</source>
+        <translation>位置，mm</translation>
+    </message>
+    <message>
+        <source>Angles, °</source>
+        <translation>角度，°</translation>
+    </message>
+    <message>
+        <source>Quaternion</source>
+        <translation>四元数</translation>
+    </message>
+    <message>
+        <source>Configuration</source>
+        <translation>姿态配置</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::PointsModel</name>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Tool</source>
+        <translation>工具</translation>
+    </message>
+    <message>
+        <source>Work object</source>
+        <translation>工件坐标系</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>描述</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::PointsPage</name>
+    <message>
+        <source>Points</source>
+        <translation>点位</translation>
+    </message>
+    <message>
+        <source>Select a point to see all its values.</source>
+        <translation>选择一个点位以查看其全部数值。</translation>
+    </message>
+    <message>
+        <source>No points</source>
+        <translation>没有点位</translation>
+    </message>
+    <message>
+        <source>The taught points of the robot project are listed here. They are loaded when the links come up; a plugin teaches one with addCurrentPoint() where the robot stands: jog it there first.</source>
+        <translation>这里列出机器人项目中已示教的点位。连接建立后自动加载；插件用 addCurrentPoint() 在机器人当前位置示教点位：请先将机器人点动到该处。</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::RecordsPage</name>
+    <message>
+        <source>Find by name</source>
+        <translation>按名称查找</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>Nothing of this name</source>
+        <translation>没有此名称的条目</translation>
+    </message>
+    <message>
+        <source>Clear the field above to see all.</source>
+        <translation>清空上方的输入框即可查看全部。</translation>
     </message>
 </context>
 <context>
@@ -635,6 +829,14 @@
     <message>
         <source>A network task “%1” threw: %2</source>
         <translation>网络任务“%1”抛出异常：%2</translation>
+    </message>
+    <message>
+        <source>What listens to the answers to “%1” threw: %2</source>
+        <translation>监听“%1”应答的代码抛出异常：%2</translation>
+    </message>
+    <message>
+        <source>What listens to the link “%1” threw: %2</source>
+        <translation>监听连接“%1”的代码抛出异常：%2</translation>
     </message>
 </context>
 <context>
@@ -1038,6 +1240,52 @@
     <message>
         <source>“%1” is no value of the type %2.</source>
         <translation>“%1”不是类型 %2 的值。</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::VariablesModel</name>
+    <message>
+        <source>Yes</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>否</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>Persistent</source>
+        <translation>持久</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>描述</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::VariablesPage</name>
+    <message>
+        <source>Variables</source>
+        <translation>变量</translation>
+    </message>
+    <message>
+        <source>No variables</source>
+        <translation>没有变量</translation>
+    </message>
+    <message>
+        <source>The variables of the robot project are listed here. They are loaded when the links come up; a plugin adds one with addVarData().</source>
+        <translation>这里列出机器人项目的变量。连接建立后自动加载；插件用 addVarData() 添加变量。</translation>
     </message>
 </context>
 <context>

@@ -104,12 +104,13 @@ void TestLanguage::noButtonOfThePendantIsCut() {
     QFETCH(QString, code);
     Frame frame;
     QVERIFY(app()->setLanguage(code));
-    const QStringList pages{pendant::pagekeys::start(), pendant::pagekeys::messages(), pendant::pagekeys::settings()};
+    const QStringList pages{pendant::pagekeys::start(),  pendant::pagekeys::jog(),      pendant::pagekeys::variables(),
+                            pendant::pagekeys::points(), pendant::pagekeys::messages(), pendant::pagekeys::settings()};
     for (const QString& page : pages) {
         frame.window->showPage(page);
         Frame::settle();
         for (const QPushButton* button : frame.window->center()->page(page)->findChildren<QPushButton*>())
-            QVERIFY2(button->width() >= button->sizeHint().width(), qPrintable(button->text()));
+            QVERIFY2(!button->isVisible() || button->width() >= button->sizeHint().width(), qPrintable(button->text()));
     }
     for (const pendant::NavigationEntry* entry : frame.window->findChildren<pendant::NavigationEntry*>())
         QVERIFY2(entry->toolTip().isEmpty(), qPrintable(entry->title()));

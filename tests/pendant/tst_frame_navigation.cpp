@@ -42,8 +42,9 @@ void TestNavigation::thePendantsOwnPagesComeFirst() {
     QStringList navs;
     for (const pendant::NavigationEntry* entry : frame.window->navigation()->entries())
         navs << entry->nav();
-    QCOMPARE(navs, QStringList({pendant::pagekeys::start(), pendant::pagekeys::messages(),
-                                pendant::pagekeys::settings(), "kite.weld"}));
+    namespace keys = pendant::pagekeys;
+    QCOMPARE(navs, QStringList({keys::start(), keys::jog(), keys::variables(), keys::points(), keys::messages(),
+                                keys::settings(), "kite.weld"}));
 }
 
 void TestNavigation::saysWhatWouldBeHereWhileThereIsNoPlugin() {
@@ -156,7 +157,7 @@ void TestNavigation::bringsTheCurrentOfManyEntriesIntoView() {
         frame.window->center()->addPage(nullptr, nav, new QWidget);
     }
     Frame::settle();
-    QCOMPARE(frame.window->navigation()->entries().size(), 33);
+    QCOMPARE(frame.window->navigation()->entries().size(), 36);
     frame.window->showPage("kite.plugin29");
     auto* entry = frame.find<QPushButton>("nav:kite.plugin29");
     QVERIFY(!entry->visibleRegion().isEmpty());

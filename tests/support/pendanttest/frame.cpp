@@ -40,7 +40,7 @@ Frame::Frame()
 void resetHost() {
     helm::standin::MessageList::instance()->clear();
     ot::gyre::standin::ButtonPages::instance()->clear();
-    for (const char* key : {"gyre.page", "brisk.kite", "helm.msg._"})
+    for (const char* key : {"gyre.page", "brisk.kite", "helm.msg._", "orca.project", "orca.toolpage"})
         m(QLatin1String(key))->clear(nullptr, /*notify*/ false, /*own*/ true);
     bfactory()->creators.clear();
     bfactory()->node->clear(nullptr, /*notify*/ false, /*own*/ true);

@@ -26,7 +26,7 @@ private:
 };
 
 /// Empties what the process's host keeps: messages, navigation, physical keys, the count of model windows, the plugins'
-/// nodes and the names that were registered with the host. No module may be alive.
+/// nodes, the project and the names that were registered with the host. No module may be alive.
 void resetHost();
 
 } // namespace pendanttest

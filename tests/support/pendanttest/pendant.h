@@ -7,6 +7,8 @@
 #include "plugins/pluginloader.h"
 #include "plugins/pluginsession.h"
 #include "plugins/thrownhandler.h"
+#include "project/framemirror.h"
+#include "project/projectmirror.h"
 
 #include "helm/messagelist.h"
 #include "kite/pluginbase.h"
@@ -31,6 +33,9 @@ namespace pendanttest {
 ///     QVERIFY(pendant.open("hello"));
 ///     QVERIFY(pendant.press("Start"));
 ///     QCOMPARE(pendant.messages().last().text, "Started.");
+///
+/// As on a pendant, the controller's project is loaded into the tree when the links come up, and the two are kept alike
+/// from then on.
 ///
 /// It runs in an empty folder of its own, which is the working directory meanwhile. A warning or an error line that the
 /// test has not named by expectError() fails the test, and so does a named one that does not come; the check is made by
@@ -111,6 +116,8 @@ private:
     WorkingFolder m_folder;
     LogWatch m_log;
     pendant::ThrownHandler m_thrownHandler;
+    pendant::ProjectMirror m_projectMirror;
+    pendant::FrameMirror m_frameMirror;
     Frame m_frame;
     pendant::CallGuard m_guard;
     pendant::PluginLoader m_loader;
