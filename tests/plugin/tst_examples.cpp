@@ -20,12 +20,13 @@ private slots:
         m_pendant.reset(new Pendant);
         QVERIFY(m_pendant->load(PLUGIN_hello));
         QVERIFY(m_pendant->load(PLUGIN_monitor));
+        QVERIFY(m_pendant->load(PLUGIN_teach));
         QVERIFY(m_pendant->load(PLUGIN_weld));
         m_pendant->start();
         QVERIFY(!m_pendant->session().hasFailures());
     }
 
-    void eachHasItsEntry() { QCOMPARE(m_pendant->navigation(), QStringList({"Hello", "Monitor", "Weld"})); }
+    void eachHasItsEntry() { QCOMPARE(m_pendant->navigation(), QStringList({"Hello", "Monitor", "Teach", "Weld"})); }
 
     void helloShowsItsGreeting() {
         QVERIFY(m_pendant->open("hello"));
@@ -40,6 +41,11 @@ private slots:
     void monitorSaysThatNothingIsConnected() {
         QVERIFY(m_pendant->open("monitor"));
         QCOMPARE(m_pendant->page("monitor")->findChild<QLabel*>("linkState")->text(), QString("Not connected"));
+    }
+
+    void teachSaysWhatToDoFirst() {
+        QVERIFY(m_pendant->open("teach"));
+        QVERIFY(m_pendant->page("teach")->findChild<QLabel*>("answer")->text().startsWith("Jog the robot"));
     }
 
     void weldShowsTheProcedureInUse() {

@@ -1,0 +1,186 @@
+#include "keptvalues.h"
+#include "teacher.h"
+#include "teachplugin.h"
+
+#include "pendanttest/pendant.h"
+#include "pendanttest/robot.h"
+
+#include <kite/interfacemanager.h>
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+#include <QTreeWidget>
+
+#include <memory>
+
+using pendanttest::Pendant;
+using pendanttest::Robot;
+
+class TestTeach : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void thePointsOfTheProjectAreListed();
+    void teachingAddsThePointWhereTheRobotStands_data();
+    void teachingAddsThePointWhereTheRobotStands();
+    void teachingTheSameNameReplaces();
+    void withoutTheControllerNothingIsTaught();
+    void aPointWithoutAnAnswerIsToldToHoldZeros();
+    void aPointNeedsAName();
+    void aPoseIsLifted();
+    void jointsAreNotLifted();
+    void twoPosesAreCompared();
+    void whatWasTaughtIsCountedAndKept();
+    void theCountIsDeletedByTheController();
+    void withoutTheBusTheCountStays();
+
+private:
+    template <typename Widget> Widget* find(const QString& name) {
+        return m_pendant->page("teach")->findChild<Widget*>(name);
+    }
+    QString answer() { return find<QLabel>("answer")->text(); }
+    QString count() { return find<QLabel>("count")->text(); }
+    QStringList listed() {
+        QStringList names;
+        const auto* list = find<QTreeWidget>("points");
+        for (int i = 0; i < list->topLevelItemCount(); ++i)
+            names << list->topLevelItem(i)->text(0);
+        return names;
+    }
+    void choose(const QStringList& names) {
+        auto* list = find<QTreeWidget>("points");
+        for (int i = 0; i < list->topLevelItemCount(); ++i)
+            list->topLevelItem(i)->setSelected(names.contains(list->topLevelItem(i)->text(0)));
+    }
+    void teach(const QString& name, const QString& button) {
+        find<QLineEdit>("pointName")->setText(name);
+        QVERIFY(m_pendant->press(button));
+        m_robot->settle();
+    }
+
+    std::unique_ptr<Pendant> m_pendant;
+    std::unique_ptr<Robot> m_robot;
+};
+
+void TestTeach::init() {
+    m_pendant.reset(new Pendant);
+    m_robot.reset(new Robot);
+    m_robot->loadDefaultCell();
+    m_pendant->add<TeachPlugin>("teach");
+    m_pendant->start();
+    m_robot->connectLinks();
+    QVERIFY(m_pendant->open("teach"));
+}
+
+void TestTeach::cleanup() {
+    m_robot.reset();
+    m_pendant.reset();
+}
+
+void TestTeach::thePointsOfTheProjectAreListed() {
+    QCOMPARE(listed(), QStringList({"home", "park", "above_part", "part", "conveyor"}));
+    QCOMPARE(listed(), kite::kiteInterface()->getPointNameList());
+}
+
+void TestTeach::teachingAddsThePointWhereTheRobotStands_data() {
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<bool>("joints");
+    QTest::newRow("joints") << "teachJoints" << true;
+    QTest::newRow("pose") << "teachPose" << false;
+}
+
+void TestTeach::teachingAddsThePointWhereTheRobotStands() {
+    QFETCH(QString, button);
+    QFETCH(bool, joints);
+    teach("P1", button);
+    QCOMPARE(answer(), QString("“P1” is taught."));
+    QCOMPARE(listed().last(), QString("P1"));
+    Teacher teacher;
+    QVERIFY(teacher.has("P1", joints ? Teacher::Kind::Joints : Teacher::Kind::Pose));
+    const QVector<double> pose = kite::kiteInterface()->getPointDataByName("P1");
+    QCOMPARE(pose.size(), 6);
+    if (!joints)
+        QVERIFY(pose.at(2) != 0);
+}
+
+void TestTeach::teachingTheSameNameReplaces() {
+    teach("P1", "teachPose");
+    teach("p1", "teachJoints");
+    QCOMPARE(listed().filter("1"), QStringList("p1"));
+}
+
+void TestTeach::withoutTheControllerNothingIsTaught() {
+    m_robot->controllerLink(false);
+    teach("P1", "teachPose");
+    QCOMPARE(answer(), QString("“P1” was not taught: the controller is not connected."));
+    QVERIFY(!listed().contains("P1"));
+}
+
+void TestTeach::aPointWithoutAnAnswerIsToldToHoldZeros() {
+    m_robot->embedded()->controllerLink()->setFault(controller::Fault::Null);
+    teach("P1", "teachPose");
+    QVERIFY(answer().startsWith("“P1” holds zeros"));
+    QVERIFY(listed().contains("P1"));
+    QCOMPARE(count(), QString("Nothing counted yet"));
+}
+
+void TestTeach::aPointNeedsAName() {
+    teach(" ", "teachPose");
+    QCOMPARE(answer(), QString("Give the point a name first."));
+}
+
+void TestTeach::aPoseIsLifted() {
+    teach("P1", "teachPose");
+    const double z = kite::kiteInterface()->getPointDataByName("P1").at(2);
+    choose({"P1"});
+    QVERIFY(m_pendant->press("lift"));
+    QCOMPARE(kite::kiteInterface()->getPointDataByName("P1").at(2), z + 10);
+}
+
+void TestTeach::jointsAreNotLifted() {
+    choose({"home"});
+    QVERIFY(m_pendant->press("lift"));
+    QCOMPARE(answer(), QString("“home” holds joints. Only a pose can be lifted."));
+}
+
+void TestTeach::twoPosesAreCompared() {
+    QVERIFY(!m_pendant->press("compare"));
+    teach("P1", "teachPose");
+    teach("P2", "teachPose");
+    choose({"P2"});
+    QVERIFY(m_pendant->press("lift"));
+    choose({"P1", "P2"});
+    QVERIFY(m_pendant->press("compare"));
+    QCOMPARE(answer(), QString("“P1” and “P2” are 10.0 mm apart."));
+}
+
+void TestTeach::whatWasTaughtIsCountedAndKept() {
+    QCOMPARE(count(), QString("Nothing counted yet"));
+    teach("P1", "teachPose");
+    teach("P2", "teachJoints");
+    QCOMPARE(count(), QString("Taught: 2"));
+    QCOMPARE(kite::kiteInterface()->getVarDataList("int").filter("teach_count"), QStringList("teach_count"));
+    QCOMPARE(find<QLabel>("last")->text(), QString("Last: P2"));
+}
+
+void TestTeach::theCountIsDeletedByTheController() {
+    teach("P1", "teachPose");
+    QVERIFY(m_pendant->press("forget"));
+    m_robot->settle();
+    QTRY_VERIFY(!kite::kiteInterface()->getVarDataList("").contains("teach_count"));
+}
+
+void TestTeach::withoutTheBusTheCountStays() {
+    teach("P1", "teachPose");
+    m_robot->bus(false);
+    QVERIFY(m_pendant->press("forget"));
+    QCOMPARE(answer(), QString("The bus is not connected: the variable stays."));
+    QVERIFY(kite::kiteInterface()->getVarDataList("").contains("teach_count"));
+}
+
+QTEST_MAIN(TestTeach)
+#include "tst_teachplugin.moc"
