@@ -155,6 +155,16 @@ private slots:
         QTest::newRow("start left out")
             << robot(QByteArray("\"axes\": [") + sixAxes + R"(, {"name": "A7", "min": 1, "max": 2, "speed": 1}])")
             << "robot.axes[6]: \"start\" must be from \"min\" to \"max\"; left out it is 0.";
+    }
+
+    void aMistakeIsNamedWithItsPlace() {
+        QFETCH(QByteArray, json);
+        QTEST(mistakeIn(json), "mistake");
+    }
+
+    void aMistakeAroundTheArmIsNamedWithItsPlace_data() {
+        QTest::addColumn<QByteArray>("json");
+        QTest::addColumn<QString>("mistake");
         QTest::newRow("no direction") << external("\"place\": {}")
                                       << "robot.external[0]: Write either \"along\", for an axis in mm, or \"about\", "
                                          "for one in degrees.";
@@ -187,7 +197,7 @@ private slots:
                                          << "robot.jog.percentOfAxis: It must be from 0.001 to 100.";
     }
 
-    void aMistakeIsNamedWithItsPlace() {
+    void aMistakeAroundTheArmIsNamedWithItsPlace() {
         QFETCH(QByteArray, json);
         QTEST(mistakeIn(json), "mistake");
     }
