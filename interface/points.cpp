@@ -39,17 +39,15 @@ PoseLeaves poseLeaves(ModuleObject* point) {
             below(euler, {"a"}),    below(euler, {"b"}),    below(euler, {"c"})};
 }
 
-// What is empty is left out of an object, and then counts as the empty name.
+// What is no text counts as the empty name.
 bool isName(const QJsonValue& json, const QString& name) {
-    return json.isString() ? json.toString() == name : (json.isNull() || json.isUndefined()) && name.isEmpty();
+    return json.toString() == name;
 }
 
 // As isName() of what `node` is exported as; a text is compared without making JSON of it.
 bool exportsAsName(const ModuleObject* node, const QString& name) {
-    if (!node)
+    if (!node || node->isList() || node->cmobjCount() > 0)
         return name.isEmpty();
-    if (node->isList() || node->cmobjCount() > 0)
-        return false;
     const QVariant value = node->value();
     return value.userType() == QMetaType::QString ? value.toString() == name : isName(jsonOf(node), name);
 }
@@ -61,6 +59,15 @@ bool exportsAsObjectNamed(ModuleObject* record, const QString& name) {
         return exportsAsName(record->c(nameKey()), name);
     const QJsonValue json = jsonOf(record);
     return json.isObject() && isName(json.toObject().value(nameKey()), name);
+}
+
+// A list that came in as one value: "[{...}, {...}]"
+QJsonObject findInLeaf(const ModuleObject* list, const QString& name) {
+    for (const QJsonValue& record : jsonOf(list).toArray()) {
+        if (record.isObject() && isName(record.toObject().value(nameKey()), name))
+            return record.toObject();
+    }
+    return QJsonObject();
 }
 
 } // namespace
@@ -77,7 +84,9 @@ QVector<double> InterfaceManager::getPointDataByName(const QString& name) {
 
 QJsonObject InterfaceManager::getPointObjDataByName(const QString& name) {
     ModuleObject* list = below(m(QStringLiteral("orca.project.point")), {"_list"});
-    const int count = list && list->isList() ? list->cmobjCount() : 0;
+    if (list && !list->isList())
+        return list->cmobjCount() > 0 ? QJsonObject() : findInLeaf(list, name);
+    const int count = list ? list->cmobjCount() : 0;
     for (int i = 0; i < count; ++i) {
         ModuleObject* record = list->c(i);
         if (exportsAsObjectNamed(record, name))

@@ -38,8 +38,8 @@ bool InterfaceManager::addVarData(const QString& name, QVariant value, bool pers
     record->set(this, QStringLiteral("id"), list->cmobjCount());
     record->set(this, QLatin1String(valueKey), value);
     record->set(this, QStringLiteral("pers"), pers);
+    const QPointer<ModuleObject> owner = list->pmobj();
     appendRecord(this, list, std::move(record));
-    ModuleObject* owner = list ? list->pmobj() : nullptr;
     if (owner)
         owner->set(this, QStringLiteral("built"), false);
     return true;

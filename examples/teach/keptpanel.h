@@ -4,6 +4,7 @@
 
 class KeptValues;
 class QLabel;
+class QPushButton;
 
 /// The kept values, and a button that deletes one of them.
 class KeptPanel : public QGroupBox {
@@ -23,4 +24,5 @@ private:
     KeptValues* m_values;
     QLabel* m_count;
     QLabel* m_last;
+    QPushButton* m_forget;
 };

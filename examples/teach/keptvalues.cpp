@@ -10,6 +10,7 @@ namespace {
 
 const QString countName = QStringLiteral("teach_count");
 const QString lastName = QStringLiteral("teach_last");
+const int reloadMs = 100;
 
 kite::InterfaceManager* robot() {
     return kite::kiteInterface();
@@ -71,6 +72,7 @@ QString KeptValues::forgetCount() {
         return tr("The bus is not connected: the variable stays.");
     if (!robot()->delVarData(countName))
         return tr("The controller refused to delete “%1”.").arg(countName);
-    emit changed();
+    // The variable leaves the list when the pendant has read its project again.
+    QTimer::singleShot(reloadMs, this, &KeptValues::changed);
     return QString();
 }

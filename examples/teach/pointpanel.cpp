@@ -89,13 +89,13 @@ void PointPanel::enableActions() {
 }
 
 void PointPanel::teach(Teacher::Kind kind) {
-    const QString name = m_name->text();
+    const QString name = m_name->text().trimmed();
     say(m_teacher->teach(name, kind), tr("“%1” is taught.").arg(name));
 }
 
 void PointPanel::lift() {
     const QString name = chosen().value(0);
-    say(m_teacher->lift(name, liftMm), tr("“%1” stands %2 mm higher.").arg(name).arg(liftMm));
+    say(m_teacher->lift(name, liftMm), tr("“%1” stands %2 mm higher.").arg(name, QString::number(liftMm)));
 }
 
 void PointPanel::compare() {

@@ -4,11 +4,13 @@
 
 #include <QJsonArray>
 #include <QJsonObject>
+#include <QRegularExpression>
 
-#include <algorithm>
 #include <cmath>
 
 namespace {
+
+const int answerTimeoutMs = 1600;
 
 kite::InterfaceManager* robot() {
     return kite::kiteInterface();
@@ -23,6 +25,11 @@ QString selected(const QString& what, const QString& otherwise) {
 QJsonObject positionOf(const QString& point) {
     const QJsonObject record = robot()->getPointObjDataByName(point);
     return record.value(QLatin1String("value")).toObject().value(QLatin1String("[0][0][0]")).toObject();
+}
+
+QRegularExpression sameName(const QString& name) {
+    return QRegularExpression(QRegularExpression::anchoredPattern(QRegularExpression::escape(name)),
+                              QRegularExpression::CaseInsensitiveOption);
 }
 
 QString number(double value) {
@@ -61,37 +68,28 @@ QString Teacher::positionText(const QString& name) const {
                           : tr("x %1  y %2  z %3").arg(number(pose.at(0)), number(pose.at(1)), number(pose.at(2)));
 }
 
-QString Teacher::teach(const QString& name, Kind kind) {
-    if (name.trimmed().isEmpty())
+QString Teacher::teach(const QString& wanted, Kind kind) {
+    const QString name = wanted.trimmed();
+    if (name.isEmpty())
         return tr("Give the point a name first.");
     const QString tool = selected(QStringLiteral("tool"), QStringLiteral("tool0"));
     const QString wobj = selected(QStringLiteral("wobj"), QStringLiteral("wobj0"));
+    if (!canTeach(tool, wobj))
+        return tr("“%1” was not taught: the controller gives no position for %2 in %3.").arg(name, tool, wobj);
     if (!robot()->addCurrentPoint(name, kind == Kind::Joints, tool, wobj))
         return tr("“%1” was not taught: the controller is not connected.").arg(name);
     emit changed();
-    if (!holdsPosition(name, kind))
-        return tr("“%1” holds zeros: the controller gave no position for %2 in %3. Teach it again before you use it.")
-            .arg(name, tool, wobj);
     emit taught(name);
     return QString();
 }
 
-// Teaching says true also when the controller gave no answer, and stores zeros: no pose has a quaternion of zeros, and
-// no robot that works stands with all joints at exactly 0.
-bool Teacher::holdsPosition(const QString& name, Kind kind) const {
-    if (kind == Kind::Joints) {
-        const QVector<double> angles = joints(name);
-        return std::any_of(angles.begin(), angles.end(), [](double angle) { return angle != 0; });
-    }
-    const QJsonObject orientation = positionOf(name)
-                                        .value(QLatin1String("pose"))
-                                        .toObject()
-                                        .value(QLatin1String("frame"))
-                                        .toObject()
-                                        .value(QLatin1String("ori"))
-                                        .toObject();
-    const QJsonObject quaternion = orientation.value(QLatin1String("quaternion")).toObject();
-    return std::any_of(quaternion.begin(), quaternion.end(), [](const QJsonValue& q) { return q.toDouble() != 0; });
+// Teaching does not look at what the controller answers: without a position it would put zeros in place of the old
+// point, and say true.
+bool Teacher::canTeach(const QString& tool, const QString& wobj) {
+    const QJsonObject frame{{QStringLiteral("tool"), tool}, {QStringLiteral("wobj"), wobj}};
+    const QJsonValue answer = robot()->rcExecRequest(
+        QStringLiteral("project"), QStringLiteral("vex_program.get_rob_pos"), frame, true, answerTimeoutMs);
+    return answer.toObject().contains(QLatin1String("joint"));
 }
 
 QString Teacher::lift(const QString& name, double mm) {
@@ -101,6 +99,10 @@ QString Teacher::lift(const QString& name, double mm) {
     QVector<double> pose = robot()->getPointDataByName(name);
     if (pose.isEmpty())
         return tr("There is no point “%1” any more.").arg(name);
+    // The pose was read by the exact name; it is written to the first name that is equal without its case.
+    const QString first = names().filter(sameName(name)).value(0);
+    if (first != name)
+        return tr("“%1” would be changed in place of “%2”. Give one of them another name.").arg(first, name);
     pose[2] += mm;
     robot()->changeCartPoint(name, pose);
     emit changed();

@@ -33,5 +33,5 @@ signals:
 
 private:
     QVector<double> joints(const QString& name) const;
-    bool holdsPosition(const QString& name, Kind kind) const;
+    static bool canTeach(const QString& tool, const QString& wobj);
 };

@@ -50,9 +50,8 @@ public:
     /// \param owner    the registration ends with this object; not owned. Null for none: then you end it
     /// \param handler  called on the user-interface thread, each time. An empty one throws std::bad_function_call when
     ///                 its time comes, into the pendant, which reports it, as it does what yours throws
-    /// \param taskId   an id of your own; empty for a new one, `name` + "_" + a number that is unique in the process.
-    /// An
-    ///                 id that is in use for the same kind replaces that registration, whoever made it
+    /// \param taskId   an id of your own, which replaces a registration of that id and kind, whoever made it; empty for
+    ///                 a new one, `name` + "_" + a number that is unique in the process
     /// \return the id, for disconnectNetworkStatus()
     QString connectNetworkStatus(bool taskFlag, const QString& name, QObject* owner, std::function<void()> handler,
                                  const QString& taskId);
@@ -186,8 +185,8 @@ public:
     /// @name Variables of the robot project
     ///
     /// The variables of the project that is open on the pendant, in its data tree below "orca.project.var._list". Names
-    /// are compared exactly and need not be unique. What is added, set or deleted is announced in the tree at once, so
-    /// it shows on the pendant's pages. Needs no link, save for deleting.
+    /// are compared exactly and need not be unique. What is added or set is announced in the tree at once, so it shows
+    /// on the pendant's pages. Needs no link, save for deleting.
     /// @{
 
     /// Adds a variable at the end of the list. It does not look whether the name is taken: a second variable of the
@@ -251,7 +250,8 @@ public:
     ///         link down, or with another pendant version, all are. An empty text may just as well be the value
     QVector<QString> getValuesOfPERSVars(const QVector<QString>& names);
 
-    /// Sets variables. Does not wait, and does not tell whether the controller took the values: read them again.
+    /// Sets variables. Does not wait, and does not tell whether the controller took the values: read them again. A name
+    /// with a dot, an empty one and one such as "#3" cannot be set by this: they are read as paths and items of lists.
     /// \param values as many as `names`, in their order
     /// \return 0 when it was handed to the bus. Nothing is sent with -1: the two differ in length; and with -240: the
     ///         pendant's version has no persistent variables

@@ -90,7 +90,7 @@ void ProjectMirror::followLinks() {
 void ProjectMirror::load() {
     ModuleObject* reply = relay()->get(this, QStringLiteral("mirror.project"));
     const QJsonObject project = reply ? reply->exportToJson(true).toObject() : QJsonObject();
-    if (!project.contains(QStringLiteral("cur_project")))
+    if (!reply || !project.contains(QStringLiteral("cur_project")))
         return;
     const bool keepNames =
         areInOrder(reply->r(QStringLiteral("var._list"))) && areInOrder(reply->r(QStringLiteral("point._list")));

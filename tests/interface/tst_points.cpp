@@ -95,13 +95,13 @@ private slots:
         QTest::addColumn<bool>("asVariable");
         QTest::newRow("text") << QJsonValue("5") << "5" << true << true;
         QTest::newRow("number") << QJsonValue(5) << "5" << false << true;
-        QTest::newRow("number, empty name") << QJsonValue(5) << "" << false << false;
+        QTest::newRow("number, empty name") << QJsonValue(5) << "" << true << false;
         QTest::newRow("bool") << QJsonValue(true) << "true" << false << true;
         QTest::newRow("none") << QJsonValue() << "" << true << true;
         QTest::newRow("empty") << QJsonValue("") << "" << true << true;
         QTest::newRow("array") << QJsonValue(QJsonArray{"a"}) << "a" << false << false;
-        QTest::newRow("array, empty name") << QJsonValue(QJsonArray()) << "" << false << true;
-        QTest::newRow("object, empty name") << QJsonValue(QJsonObject{{"a", 1}}) << "" << false << true;
+        QTest::newRow("array, empty name") << QJsonValue(QJsonArray()) << "" << true << true;
+        QTest::newRow("object, empty name") << QJsonValue(QJsonObject{{"a", 1}}) << "" << true << true;
     }
     void theTwoLookUpsReadNamesEachInItsWay() {
         QFETCH(QJsonValue, stored);

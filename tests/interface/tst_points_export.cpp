@@ -8,9 +8,7 @@ QJsonObject inTheWholeExport(const QString& name) {
     ModuleObject* list = m("orca.project.point")->c("_list");
     const QJsonValue json = list ? list->exportToJson(true) : QJsonValue();
     for (const QJsonValue& element : json.toArray()) {
-        const QJsonValue found = element.toObject().value("name");
-        const bool isNone = found.isNull() || found.isUndefined();
-        if (element.isObject() && (isNone ? name.isEmpty() : found.isString() && found.toString() == name))
+        if (element.isObject() && element.toObject().value("name").toString() == name)
             return element.toObject();
     }
     return QJsonObject();
@@ -43,6 +41,19 @@ private slots:
             }
         }
         QVERIFY2(found > 20, qPrintable(QString::number(found)));
+    }
+
+    void aListThatIsOneValueIsSearchedToo() {
+        ModuleObject* parent = m("orca.project.point");
+        parent->clear(nullptr, false, false);
+        const QJsonObject wanted{{"name", "a"}, {"id", 2}};
+        parent->set(nullptr, "_list", QJsonArray{5, QJsonObject{{"name", "b"}}, wanted});
+        QVERIFY(!parent->c("_list")->isList());
+        for (const char* name : {"a", "b", "c", ""})
+            QCOMPARE(kiteInterface()->getPointObjDataByName(name), inTheWholeExport(name));
+        QCOMPARE(kiteInterface()->getPointObjDataByName("a"), wanted);
+        parent->c("_list")->set(nullptr, "child", 1);
+        QCOMPARE(kiteInterface()->getPointObjDataByName("a"), QJsonObject());
     }
 
 private:

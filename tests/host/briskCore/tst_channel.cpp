@@ -174,7 +174,7 @@ void Channels::eachMessageHasANumberOfItsOwn() {
     Channel channel("bus");
     FakeLink link(&channel);
     channel.send(nullptr, messageOf("a"));
-    channel.ask(nullptr, messageOf("b"), 10);
+    channel.ask(nullptr, messageOf("b"), 1000);
     channel.post(nullptr, messageOf("c"), 10);
     QVERIFY(link.sent.at(0).id < link.sent.at(1).id);
     QVERIFY(link.sent.at(1).id < link.sent.at(2).id);
@@ -186,7 +186,7 @@ void Channels::onlyAQuestionWantsAnAnswer() {
     Message message = messageOf("a");
     message.wantsAnswer = true;
     channel.send(nullptr, message);
-    channel.ask(nullptr, messageOf("b"), 10);
+    channel.ask(nullptr, messageOf("b"), 1000);
     channel.post(nullptr, messageOf("c"), 10);
     QVERIFY(!link.sent.at(0).wantsAnswer);
     QVERIFY(link.sent.at(1).wantsAnswer);
@@ -197,7 +197,7 @@ void Channels::theAnswerOfAQuestionComesBack() {
     Channel channel("bus");
     FakeLink link(&channel);
     link.reply = [](const Message& message) { return contentOf(QVariant("for " + message.key)); };
-    const Channel::Reply reply = channel.ask(nullptr, messageOf("io"), 10);
+    const Channel::Reply reply = channel.ask(nullptr, messageOf("io"), 1000);
     QCOMPARE(reply.state, Channel::Reply::Answered);
     QCOMPARE(reply.content->getString(), QString("for io"));
 }
@@ -205,7 +205,7 @@ void Channels::theAnswerOfAQuestionComesBack() {
 void Channels::anAnswerMayBeNothingAtAll() {
     Channel channel("bus");
     FakeLink link(&channel);
-    const Channel::Reply reply = channel.ask(nullptr, messageOf("io"), 10);
+    const Channel::Reply reply = channel.ask(nullptr, messageOf("io"), 1000);
     QCOMPARE(reply.state, Channel::Reply::Answered);
     QVERIFY(!reply.content);
 }
@@ -214,18 +214,18 @@ void Channels::withoutAnAnswerAQuestionTimesOut() {
     Channel channel("bus");
     FakeLink link(&channel);
     link.answers = false;
-    QCOMPARE(channel.ask(nullptr, messageOf("io"), 10).state, Channel::Reply::TimedOut);
+    QCOMPARE(channel.ask(nullptr, messageOf("io"), 1000).state, Channel::Reply::TimedOut);
 }
 
 void Channels::aLateAnswerIsNotTakenForTheNextQuestions() {
     Channel channel("bus");
     FakeLink link(&channel);
     link.answers = false;
-    QCOMPARE(channel.ask(nullptr, messageOf("io"), 10).state, Channel::Reply::TimedOut);
+    QCOMPARE(channel.ask(nullptr, messageOf("io"), 1000).state, Channel::Reply::TimedOut);
     link.queue({link.sent.first().id, contentOf(QVariant("late"))});
     link.answers = true;
     link.answerWith(contentOf(QVariant("in time")));
-    const Channel::Reply reply = channel.ask(nullptr, messageOf("io"), 10);
+    const Channel::Reply reply = channel.ask(nullptr, messageOf("io"), 1000);
     QCOMPARE(reply.state, Channel::Reply::Answered);
     QCOMPARE(reply.content->getString(), QString("in time"));
 }
@@ -250,7 +250,7 @@ void Channels::aPostedQuestionsAnswerInTheWayOfAnotherIsKept() {
     link.reply = [](const Message& message) { return contentOf(QVariant(message.key)); };
     QSignalSpy answered(&channel, &Channel::answered);
     channel.post(nullptr, messageOf("posted"), 1000);
-    QCOMPARE(channel.ask(nullptr, messageOf("asked"), 10).content->getString(), QString("asked"));
+    QCOMPARE(channel.ask(nullptr, messageOf("asked"), 1000).content->getString(), QString("asked"));
     QCOMPARE(answered.size(), 0);
     QCoreApplication::processEvents();
     QCOMPARE(answered.size(), 1);
@@ -326,13 +326,13 @@ void Channels::aQuestionInTheMiddleOfAnotherTakesNothingFromIt() {
     QString inner;
     link.reply = [&](const Message& message) {
         if (message.key == "outer")
-            inner = channel.ask(nullptr, messageOf("inner"), 10).content->getString();
+            inner = channel.ask(nullptr, messageOf("inner"), 1000).content->getString();
         return contentOf(QVariant(message.key));
     };
-    QCOMPARE(channel.ask(nullptr, messageOf("outer"), 10).content->getString(), QString("outer"));
+    QCOMPARE(channel.ask(nullptr, messageOf("outer"), 1000).content->getString(), QString("outer"));
     QCOMPARE(inner, QString("inner"));
     link.queue({0, nullptr});
-    QCOMPARE(channel.ask(nullptr, messageOf("next"), 10).content->getString(), QString("next"));
+    QCOMPARE(channel.ask(nullptr, messageOf("next"), 1000).content->getString(), QString("next"));
 }
 
 void Channels::deliveriesAndNoticesAreHandedOn() {

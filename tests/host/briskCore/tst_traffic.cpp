@@ -89,7 +89,7 @@ void TrafficOfChannels::everyKindOfMessageIsTold() {
 }
 
 void TrafficOfChannels::aMessageThatIsNotSentIsMarked() {
-    Channel("bus").ask(nullptr, {0, Verb::Get, "io", QString(), nullptr, true}, 10);
+    Channel("bus").ask(nullptr, {0, Verb::Get, "io", QString(), nullptr, true}, 1000);
     QCOMPARE(m_entries.size(), 1);
     QVERIFY(m_entries.first().linkDown);
 }
@@ -111,7 +111,7 @@ void TrafficOfChannels::anAnswerTellsHowLongItTook() {
         QTest::qSleep(5);
         return contentOf(QVariant(QJsonObject{{"ok", true}}));
     };
-    channel.ask(nullptr, {0, Verb::Get, "io", "di1", nullptr, true}, 10);
+    channel.ask(nullptr, {0, Verb::Get, "io", "di1", nullptr, true}, 1000);
     QCOMPARE(m_entries.size(), 2);
     QCOMPARE(m_entries.at(1).kind, QString("answer"));
     QCOMPARE(m_entries.at(1).direction, TrafficEntry::Direction::In);
@@ -124,7 +124,7 @@ void TrafficOfChannels::aTimeOutIsTold() {
     Channel channel("bus");
     FakeLink link(&channel);
     link.answers = false;
-    channel.ask(nullptr, {0, Verb::Get, "io", QString(), nullptr, true}, 10);
+    channel.ask(nullptr, {0, Verb::Get, "io", QString(), nullptr, true}, 1000);
     QCOMPARE(m_entries.last().kind, QString("time-out"));
     QVERIFY(m_entries.last().durationMs >= 0);
 }
