@@ -6,8 +6,36 @@ namespace controller {
 
 namespace {
 
+// -1 for a name that is none of an item
+int itemNumber(const QString& name) {
+    bool isNumber = false;
+    const int number = name.startsWith('#') ? name.mid(1).toInt(&isNumber) : -1;
+    return isNumber ? number : -1;
+}
+
+// What has no children yet is a list as soon as it gets an item.
+bool mayGet(const brisk::ModuleObject* parent, const QString& name) {
+    if (parent && parent->cmobjCount() > 0 && !parent->isList())
+        return true;
+    const int number = itemNumber(name);
+    return number < 0 || number == (parent ? parent->cmobjCount() : 0);
+}
+
+bool leadsPastTheEndOfAList(brisk::ModuleObject* value, const QString& subKey) {
+    brisk::ModuleObject* parent = value;
+    for (const QString& name : subKey.split('.')) {
+        brisk::ModuleObject* child = parent ? parent->r(name) : nullptr;
+        if (!child && !mayGet(parent, name))
+            return true;
+        parent = child;
+    }
+    return false;
+}
+
 // ModuleObject::set() alone makes the next item of a list.
 brisk::ModuleObject* nodeMadeAt(brisk::ModuleObject* value, const QString& subKey) {
+    if (!subKey.isEmpty() && leadsPastTheEndOfAList(value, subKey))
+        return nullptr;
     if (brisk::ModuleObject* node = value->r(subKey, true))
         return node;
     value->set(nullptr, subKey, QVariant(), false);
@@ -26,6 +54,7 @@ void BusTable::defineContent(const QString& key, const Content& start) {
     m_checks.remove(key);
     m_sources.remove(key);
     m_values.insert(key, copied(start));
+    emit defined(key);
     tell(key);
 }
 
@@ -33,6 +62,7 @@ void BusTable::defineComputed(const QString& key, const Source& source, const Se
     m_values.remove(key);
     m_sources.insert(key, source);
     onSet(key, store);
+    emit defined(key);
     tell(key);
 }
 

@@ -79,6 +79,8 @@ public:
     /// @}
 
 signals:
+    /// `key` starts anew; who let it change may stop now. Before it is delivered.
+    void defined(const QString& key);
     /// `key` was written; an equal value counts too.
     void written(const QString& key);
     /// The watched `key` was written. `value` is the whole of it, also when a part was written.

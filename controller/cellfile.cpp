@@ -1,6 +1,7 @@
 #include "controller/cellfile.h"
 
 #include "controller/cell/cellreader.h"
+#include "controller/cell/repeatedname.h"
 #include "controller/project/project.h"
 #include "controller/robot/robot.h"
 
@@ -24,13 +25,22 @@ bool fail(QString* error, const QString& name, const QString& text) {
     return false;
 }
 
+QString lineAndColumn(const QByteArray& text, int offset) {
+    const QByteArray before = text.left(offset);
+    const int line = before.count('\n') + 1;
+    const int column = before.size() - before.lastIndexOf('\n');
+    return QStringLiteral("Line %1, column %2").arg(line).arg(column);
+}
+
 QString whyNoObject(const QByteArray& text, const QJsonParseError& error) {
     if (error.error == QJsonParseError::NoError)
         return QStringLiteral("It must hold an object: {\"bus\": {...}}.");
-    const QByteArray before = text.left(error.offset);
-    const int line = before.count('\n') + 1;
-    const int column = before.size() - before.lastIndexOf('\n');
-    return QStringLiteral("Line %1, column %2 is not JSON: %3.").arg(line).arg(column).arg(error.errorString());
+    return QStringLiteral("%1 is not JSON: %2.").arg(lineAndColumn(text, error.offset), error.errorString());
+}
+
+QString whyRepeated(const QByteArray& text, const RepeatedName& repeated) {
+    return QStringLiteral("%1: The name \"%2\" stands in this object already. Write one member of it.")
+        .arg(lineAndColumn(text, repeated.offset), repeated.name);
 }
 
 std::function<Content(const Content&)> answering(const QJsonValue& answer) {
@@ -60,10 +70,8 @@ QVector<Cell::Rule> asSent(QVector<Cell::Rule> rules) {
 }
 
 void take(const Cell& cell, VirtualController* controller) {
-    for (auto entry = cell.values.constBegin(); entry != cell.values.constEnd(); ++entry) {
-        controller->changing()->remove(entry.key());
+    for (auto entry = cell.values.constBegin(); entry != cell.values.constEnd(); ++entry)
         controller->bus()->define(entry.key(), entry.value());
-    }
     for (auto entry = cell.courses.constBegin(); entry != cell.courses.constEnd(); ++entry)
         controller->changing()->add(entry.key(), entry.value());
     for (auto entry = cell.commands.constBegin(); entry != cell.commands.constEnd(); ++entry)
@@ -100,6 +108,9 @@ bool CellFile::loadText(const QByteArray& text, const QString& name, VirtualCont
     const QJsonDocument document = QJsonDocument::fromJson(text, &parseError);
     if (!document.isObject())
         return fail(error, name, whyNoObject(text, parseError));
+    const RepeatedName repeated = RepeatedName::in(text);
+    if (repeated.offset >= 0)
+        return fail(error, name, whyRepeated(text, repeated));
     CellReader reader;
     if (!reader.read(document.object()))
         return fail(error, name, reader.error());

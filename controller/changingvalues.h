@@ -23,7 +23,7 @@ public:
     ChangingValues(const Clock* clock, BusTable* bus, QObject* parent = nullptr);
 
     /// Lets the value of `key` follow `course`, which is asked at every moment of the clock; a value that differs from
-    /// the one before is written.
+    /// the one before is written. It ends when the key is defined anew.
     void add(const QString& key, Course course);
     /// `key` keeps its present value and can be set.
     void remove(const QString& key);
@@ -35,6 +35,7 @@ private:
         QVariant present;
     };
     void advance(qint64 nowMs);
+    void advance(const QString& key, qint64 nowMs);
 
     const Clock* m_clock;
     BusTable* m_bus;
@@ -44,7 +45,7 @@ private:
 /// Up and down between `min` and `max`, starting at `min` and back there after every `periodMs`; a new value, with two
 /// places after the point, every 100 ms.
 ChangingValues::Course wave(double min, double max, qint64 periodMs);
-/// From `start` on one more every `everyMs`.
+/// From `start` on one more every `everyMs`, up to the greatest int.
 ChangingValues::Course counter(int start, qint64 everyMs);
 
 } // namespace controller

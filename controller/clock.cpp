@@ -1,5 +1,7 @@
 #include "controller/clock.h"
 
+#include <QScopedValueRollback>
+
 namespace controller {
 
 Clock::Clock(QObject* parent) : QObject(parent) {
@@ -14,13 +16,13 @@ void Clock::step(qint64 ms) {
     m_untilMs += ms;
     if (m_isStepping)
         return;
-    m_isStepping = true;
+    // A listener may throw.
+    const QScopedValueRollback<bool> stepping(m_isStepping, true);
     while (m_nowMs < m_untilMs) {
         const qint64 byMs = nextStop() - m_nowMs;
         m_nowMs += byMs;
         emit advanced(m_nowMs, byMs);
     }
-    m_isStepping = false;
 }
 
 void Clock::runByItself(bool on) {

@@ -21,7 +21,7 @@ public:
 
     qint64 nowMs() const { return m_nowMs; }
     /// Moves on by `ms`; nothing happens for 0 or less. Called by a listener of advanced(), it adds to the step that is
-    /// being made and returns at once.
+    /// being made and returns at once. What a listener throws comes through; the next step makes up for the rest.
     void step(qint64 ms);
 
     bool runsByItself() const { return m_timer.isActive(); }

@@ -2,8 +2,6 @@
 
 #include "brisk/channel.h"
 
-#include <QTimer>
-
 using brisk::standin::Channel;
 
 namespace controller {
@@ -32,10 +30,8 @@ Embedded::~Embedded() {
 
 void Embedded::start(int delayMs) {
     m_controller.clock()->runByItself(true);
-    QTimer::singleShot(delayMs, this, [this] {
-        QTimer::singleShot(controllerLinkAfterMs, this, [this] { m_controllerLink.setUp(true); });
-        m_bus.setUp(true);
-    });
+    m_bus.comeUpIn(delayMs);
+    m_controllerLink.comeUpIn(delayMs + controllerLinkAfterMs);
 }
 
 } // namespace controller

@@ -21,6 +21,7 @@ public:
     EmbeddedLink* controllerLink() { return &m_controllerLink; }
 
     /// Lets the clock run by itself, the bus come up after `delayMs` and the controller link a moment after the bus.
+    /// A link that somebody takes up or down before is left to him.
     void start(int delayMs = 300);
 
 private:

@@ -1,5 +1,6 @@
 #include "controller/embeddedlink.h"
 
+#include <QPointer>
 #include <QThread>
 
 #include <algorithm>
@@ -13,6 +14,9 @@ EmbeddedLink::EmbeddedLink(VirtualController* controller, QObject* parent) : Lin
     m_timer.setSingleShot(true);
     m_timer.setTimerType(Qt::PreciseTimer);
     connect(&m_timer, &QTimer::timeout, this, &EmbeddedLink::handOut);
+    m_comingUp.setSingleShot(true);
+    m_comingUp.setTimerType(Qt::PreciseTimer);
+    connect(&m_comingUp, &QTimer::timeout, this, [this] { setUp(true); });
     connect(controller, &VirtualController::delivered, this, &EmbeddedLink::passDelivery);
     connect(controller, &VirtualController::noticed, this, &EmbeddedLink::passNotice);
 }
@@ -22,13 +26,16 @@ EmbeddedLink::~EmbeddedLink() {
 }
 
 void EmbeddedLink::setUp(bool up) {
+    m_comingUp.stop();
     if (up == m_isUp)
         return;
     m_isUp = up;
     ++m_connection;
     m_outbox.clear();
     m_timer.stop();
-    if (!up)
+    if (up)
+        handOutNoticesLater();
+    else
         m_controller->bus()->forgetWatches(this);
     emit upChanged(up);
 }
@@ -36,13 +43,15 @@ void EmbeddedLink::setUp(bool up) {
 void EmbeddedLink::send(const Message& message) {
     if (!m_isUp)
         return;
-    const bool wasHandling = m_isHandling;
-    m_isHandling = true;
+    const qint64 sentMs = m_wall.elapsed();
     const quint64 connection = m_connection;
+    // Who carries the message out may destroy the link.
+    const QPointer<EmbeddedLink> self(this);
     const Content content = m_controller->handle(message, this);
-    m_isHandling = wasHandling;
-    if (message.wantsAnswer && m_fault != Fault::Lost && connection == m_connection)
-        put({message.id, faulty(content)});
+    if (!self || connection != m_connection)
+        return;
+    if (message.wantsAnswer && m_fault != Fault::Lost)
+        put({message.id, faulty(content)}, sentMs);
 }
 
 // An answer that is due later than the caller waits does not come, however late the thread wakes up.
@@ -58,8 +67,9 @@ void EmbeddedLink::sleepUntil(qint64 atMs) const {
         QThread::msleep(static_cast<unsigned long>(leftMs));
 }
 
-void EmbeddedLink::put(const Answer& answer) {
-    const Due due{m_wall.elapsed() + m_delayMs, answer};
+// The delay counts from the question on; there is no answer before it was made.
+void EmbeddedLink::put(const Answer& answer, qint64 sentMs) {
+    const Due due{qMax(sentMs + m_delayMs, m_wall.elapsed()), answer};
     const auto later = [](const Due& a, const Due& b) { return a.atMs < b.atMs; };
     m_outbox.insert(std::upper_bound(m_outbox.begin(), m_outbox.end(), due, later), due);
     startTimer();
@@ -82,10 +92,12 @@ bool EmbeddedLink::takeDue(Answer* answer) {
 }
 
 void EmbeddedLink::handOut() {
+    const QPointer<EmbeddedLink> self(this);
     Answer answer;
-    while (takeDue(&answer))
+    while (self && takeDue(&answer))
         emit answered(answer);
-    startTimer();
+    if (self)
+        startTimer();
 }
 
 void EmbeddedLink::startTimer() {
@@ -111,8 +123,23 @@ void EmbeddedLink::passDelivery(const QString& key, const Content& content) {
 }
 
 void EmbeddedLink::passNotice(const QString& text) {
-    if (m_isHandling)
-        remark(text);
+    if (m_controller->asker() != this || m_controller->wasHandedOut(text) || !m_notices.add(text))
+        return;
+    handOutNoticesLater();
+}
+
+void EmbeddedLink::handOutNoticesLater() {
+    QMetaObject::invokeMethod(this, &EmbeddedLink::handOutNotices, Qt::QueuedConnection);
+}
+
+// Who hears of one may take the link down or destroy it; one that is new then has a call of its own.
+void EmbeddedLink::handOutNotices() {
+    const QPointer<EmbeddedLink> self(this);
+    for (int left = m_notices.size(); left > 0 && self && m_isUp && m_notices.size() > 0; --left) {
+        const QString text = m_notices.takeOldest();
+        if (m_controller->handOutOnce(text))
+            emit noticed(text);
+    }
 }
 
 void EmbeddedLink::remark(const QString& text) {

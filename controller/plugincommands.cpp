@@ -15,6 +15,14 @@ Content answerWith(const Content& data) {
     return answer;
 }
 
+QString wrongEndpoint(const Message& message) {
+    if (message.subKey.isEmpty())
+        return QStringLiteral("The plugin command \"%1\" names no endpoint. Send it to \"%2\".")
+            .arg(message.key, PluginCommands::endpoint());
+    return QStringLiteral("The controller has no endpoint \"%1\" for the plugin command \"%2\". Send it to \"%3\".")
+        .arg(message.subKey, message.key, PluginCommands::endpoint());
+}
+
 } // namespace
 
 PluginCommands::PluginCommands(QObject* parent) : QObject(parent), m_handler(echo) {}
@@ -24,7 +32,7 @@ QString PluginCommands::endpoint() {
 }
 
 bool PluginCommands::isPluginCommand(const Message& message) {
-    return message.verb == Verb::Execute && !message.subKey.isEmpty();
+    return message.verb == Verb::Execute && !message.subKey.isNull();
 }
 
 void PluginCommands::setHandler(Handler handler) {
@@ -36,9 +44,7 @@ Content PluginCommands::handle(const Message& message) {
     const Handler handler = m_handler;
     if (message.subKey == endpoint())
         return answerWith(handler(message.key, message.content));
-    const QString text = QStringLiteral("The controller has no endpoint \"%1\" for the plugin command \"%2\". Send it "
-                                        "to \"%3\".")
-                             .arg(message.subKey, message.key, endpoint());
+    const QString text = wrongEndpoint(message);
     emit noticed(text);
     return brisk::standin::refusal(text);
 }

@@ -10,7 +10,7 @@
 namespace controller {
 
 /// The commands that go to the controller's service for plugins. Such a message is an Execute with an endpoint as its
-/// sub-key; the answer carries what came out in its child "data".
+/// sub-key, which is not null; the answer carries what came out in its child "data".
 class PluginCommands : public QObject {
     Q_OBJECT
 
@@ -27,7 +27,7 @@ public:
     /// An empty handler stands for the one at the start, which gives back what was sent.
     void setHandler(Handler handler);
 
-    /// The answer; of another endpoint a refusal, told by noticed() too.
+    /// The answer; of another endpoint or an empty one a refusal, told by noticed() too.
     Content handle(const Message& message);
 
 signals:

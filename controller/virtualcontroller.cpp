@@ -8,13 +8,9 @@
 #include "controller/robot/robot.h"
 #include "controller/robot/robotkeys.h"
 
+#include <QPointer>
+
 namespace controller {
-
-namespace {
-
-const int toldAtMost = 1000;
-
-} // namespace
 
 /// The robot, its project, and what they have on the bus.
 struct VirtualController::Machine {
@@ -33,11 +29,30 @@ struct VirtualController::Machine {
     MonitorKeys monitorKeys;
 };
 
+/// Notes who asks. What carries a message out may throw, and may destroy the controller.
+class VirtualController::Asking {
+public:
+    Asking(VirtualController* controller, const QObject* asker)
+        : m_controller(controller), m_before(controller->m_asker) {
+        controller->m_asker = asker;
+    }
+    ~Asking() {
+        if (m_controller)
+            m_controller->m_asker = m_before;
+    }
+
+private:
+    Q_DISABLE_COPY(Asking)
+
+    QPointer<VirtualController> m_controller;
+    const QObject* m_before;
+};
+
 VirtualController::VirtualController(QObject* parent) : QObject(parent), m_machine(std::make_unique<Machine>(this)) {
     connect(&m_bus, &BusTable::delivered, this, &VirtualController::delivered);
-    connect(&m_bus, &BusTable::noticed, this, &VirtualController::tellOnce);
-    connect(&m_requests, &RequestTable::noticed, this, &VirtualController::tellOnce);
-    connect(&m_pluginCommands, &PluginCommands::noticed, this, &VirtualController::tellOnce);
+    connect(&m_bus, &BusTable::noticed, this, &VirtualController::noticed);
+    connect(&m_requests, &RequestTable::noticed, this, &VirtualController::noticed);
+    connect(&m_pluginCommands, &PluginCommands::noticed, this, &VirtualController::noticed);
     connect(robot(), &Robot::noticed, this, &VirtualController::remarked);
     connect(&m_machine->persistentFile, &PersistentFile::failed, this, &VirtualController::remarked);
     m_changing.add(QStringLiteral("controller.uptime"), counter(0, 1000));
@@ -62,6 +77,7 @@ bool VirtualController::keepValuesIn(const QString& path, QString* error) {
 }
 
 Content VirtualController::handle(const Message& message, const QObject* asker) {
+    const Asking asking(this, asker);
     switch (message.verb) {
     case Verb::Get:
         return m_bus.get(message.key, message.subKey);
@@ -85,16 +101,6 @@ Content VirtualController::handleExecute(const Message& message) {
     if (PluginCommands::isPluginCommand(message))
         return m_pluginCommands.handle(message);
     return m_bus.command(message.key, message.content);
-}
-
-void VirtualController::tellOnce(const QString& text) {
-    if (m_told.contains(text))
-        return;
-    // Keys may be made up without end.
-    if (m_told.size() >= toldAtMost)
-        m_told.clear();
-    m_told.insert(text);
-    emit noticed(text);
 }
 
 } // namespace controller

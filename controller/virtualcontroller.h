@@ -5,10 +5,10 @@
 #include "controller/clock.h"
 #include "controller/content.h"
 #include "controller/plugincommands.h"
+#include "controller/recenttexts.h"
 #include "controller/requesttable.h"
 
 #include <QObject>
-#include <QSet>
 #include <QString>
 
 #include <memory>
@@ -49,21 +49,28 @@ public:
     /// Carries `message` out and gives the answer, also when the message wants none. `asker` is who watches when the
     /// message is a watch; null is an asker like any other.
     Content handle(const Message& message, const QObject* asker = nullptr);
+    /// Whose message is being handled, the innermost one; null also when there is none.
+    const QObject* asker() const { return m_asker; }
+
+    /// To be asked when a sentence of noticed() is handed out: a plugin may ask ten times a second, and the people at
+    /// the pendant are told once. Of the sentences handed out the last RecentTexts::capacity are remembered.
+    /// \return false when it was handed out before
+    bool handOutOnce(const QString& sentence) { return m_handedOut.add(sentence); }
+    bool wasHandedOut(const QString& sentence) const { return m_handedOut.contains(sentence); }
 
 signals:
     /// A watched bus key was written.
     void delivered(const QString& key, const brisk::standin::Content& content);
-    /// The message that is being handled was refused; a sentence for the people at the pendant. The same sentence is
-    /// told once: a plugin may ask ten times a second.
+    /// A message was refused, that of asker() if there is one; a sentence for the people at the pendant.
     void noticed(const QString& text);
     /// Something has come about that is no answer to a message; a sentence for the people at the pendant.
     void remarked(const QString& text);
 
 private:
     struct Machine;
+    class Asking;
 
     Content handleExecute(const Message& message);
-    void tellOnce(const QString& text);
 
     Clock m_clock;
     BusTable m_bus;
@@ -71,7 +78,8 @@ private:
     RequestTable m_requests;
     PluginCommands m_pluginCommands;
     std::unique_ptr<Machine> m_machine;
-    QSet<QString> m_told;
+    const QObject* m_asker = nullptr;
+    RecentTexts m_handedOut;
 };
 
 } // namespace controller

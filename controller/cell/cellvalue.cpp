@@ -65,7 +65,8 @@ double CellValue::numberFrom(double least, double most, const QString& unit) con
     const double value = number();
     if (value < least || value > most)
         fail(QStringLiteral("It must be from %1 to %2%3.")
-                 .arg(QString::number(least), QString::number(most, 'g', 12), unit.isEmpty() ? unit : ' ' + unit));
+                 .arg(QString::number(least, 'g', 12), QString::number(most, 'g', 12),
+                      unit.isEmpty() ? unit : ' ' + unit));
     return value;
 }
 

@@ -9,7 +9,7 @@ namespace {
 const double leastWaveS = 1;
 const double leastCountS = 0.1;
 const double mostS = 1000000;
-const double mostFrom = 1e9;
+const double mostValue = 1e9;
 
 qint64 toMs(double seconds) {
     return qRound64(seconds * 1000);
@@ -22,8 +22,8 @@ qint64 msIn(const CellValue& json, double leastS) {
 
 ChangingValues::Course waveIn(const CellValue& json) {
     json.mayHave({"min", "max", "periodS"});
-    const double min = json["min"].number();
-    const double max = json["max"].number();
+    const double min = json["min"].numberFrom(-mostValue, mostValue);
+    const double max = json["max"].numberFrom(-mostValue, mostValue);
     if (min > max)
         json.fail(QStringLiteral("\"min\" is greater than \"max\". Exchange them."));
     return wave(min, max, msIn(json["periodS"], leastWaveS));
@@ -31,9 +31,9 @@ ChangingValues::Course waveIn(const CellValue& json) {
 
 ChangingValues::Course countIn(const CellValue& json) {
     json.mayHave({"from", "everyS"});
-    const double from = json["from"].number(0);
-    if (std::abs(from) > mostFrom || std::floor(from) < from)
-        json["from"].fail(QStringLiteral("Write a whole number, of nine digits at most."));
+    const double from = json["from"].exists() ? json["from"].numberFrom(-mostValue, mostValue) : 0;
+    if (std::floor(from) < from)
+        json["from"].fail(QStringLiteral("Write a whole number."));
     return counter(json["from"].json().toInt(), msIn(json["everyS"], leastCountS));
 }
 

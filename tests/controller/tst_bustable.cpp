@@ -138,6 +138,38 @@ private slots:
         QCOMPARE(text(table->get("list", "")), QString("[1,2]"));
     }
 
+    void aListIsMadeByItsFirstItemOnly_data() {
+        QTest::addColumn<QString>("subKey");
+        QTest::addColumn<QString>("json");
+        QTest::newRow("first of a new one") << "new.#0"
+                                            << R"({"empty":[],"new":[9],"old":[1]})";
+        QTest::newRow("third of a new one") << "new.#3"
+                                            << "";
+        QTest::newRow("below it") << "new.#3.a"
+                                  << "";
+        QTest::newRow("third of one in a new one") << "new.#0.#3"
+                                                   << "";
+        QTest::newRow("third of an empty one") << "empty.#3"
+                                               << "";
+        QTest::newRow("past the end, and below") << "old.#2.a"
+                                                 << "";
+    }
+
+    void aListIsMadeByItsFirstItemOnly() {
+        QFETCH(QString, subKey);
+        QFETCH(QString, json);
+        const QJsonObject start{{"empty", QJsonArray()}, {"old", QJsonArray{1}}};
+        table->define("io", start);
+        QCOMPARE(refusalOf(table->set("io", subKey, content("9"))).isEmpty(), !json.isEmpty());
+        QCOMPARE(text(table->get("io", "")), json.isEmpty() ? QString(R"({"empty":[],"old":[1]})") : json);
+    }
+
+    void aNumberedChildOfWhatIsNoListIsAName() {
+        table->define("io", QJsonObject{{"lamp", 1}});
+        QVERIFY(!table->set("io", "#3", content("9")));
+        QCOMPARE(text(table->get("io", "#3")), QString("9"));
+    }
+
     void theOrderOfChildrenIsKept() {
         table->defineContent("list", numbered(12));
         QCOMPARE(childNames(table->get("list", "")), QString("#0 #1 #2 #3 #4 #5 #6 #7 #8 #9 #10 #11"));

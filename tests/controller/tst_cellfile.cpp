@@ -183,6 +183,12 @@ private slots:
         QTest::newRow("own command") << R"({"commands": {"project.variable": 1}})"
                                      << "commands[\"project.variable\"]: "
                                      << "another name";
+        QTest::newRow("command like an own one") << R"({"commands": {"controller.x": 1}})"
+                                                 << "commands[\"controller.x\"]: "
+                                                 << "another name";
+        QTest::newRow("request like an own one") << R"({"requests": {"controller.x": 1}})"
+                                                 << "requests[\"controller.x\"]: "
+                                                 << "another name";
         QTest::newRow("key twice") << R"({"bus": {"a": 1}, "changing": {"a": {"count": {"everyS": 1}}}})"
                                    << "changing.a: "
                                    << "Remove one";
@@ -219,6 +225,25 @@ private slots:
         QTest::newRow("half a part") << R"({"changing": {"a": {"count": {"from": 0.5, "everyS": 1}}}})"
                                      << "changing.a.count.from: "
                                      << "whole number";
+        QTest::newRow("from far away") << R"({"changing": {"a": {"count": {"from": 1e12, "everyS": 1}}}})"
+                                       << "changing.a.count.from: "
+                                       << "from -1000000000 to 1000000000";
+        QTest::newRow("greatest int") << R"({"changing": {"a": {"count": {"from": 2147483647, "everyS": 1}}}})"
+                                      << "changing.a.count.from: "
+                                      << "from -1000000000 to 1000000000";
+        QTest::newRow("too low") << R"({"changing": {"a": {"wave": {"min": -1e308, "max": 1e308, "periodS": 3}}}})"
+                                 << "changing.a.wave.min: "
+                                 << "from -1000000000 to 1000000000";
+        QTest::newRow("too high") << R"({"changing": {"a": {"wave": {"min": 1, "max": 1e308, "periodS": 3}}}})"
+                                  << "changing.a.wave.max: "
+                                  << "from -1000000000 to 1000000000";
+        QTest::newRow("section twice") << "{\"bus\": {\"a\": 1},\n \"bus\": {\"b\": 1}}"
+                                       << "Line 2, column 2: "
+                                       << "\"bus\" stands";
+        QTest::newRow("key twice, once in escapes")
+            << "{\"bus\": {\"x\": [{\"a\": 1}, {\"a\": 1}], \"io\": 1, \"\\u0069o\": 2}}"
+            << "Line 1, column 46: "
+            << "\"io\" stands";
         QTest::newRow("no when") << R"({"pluginCommands": [{"when": 1, "answer": []}, {"answer": []}]})"
                                  << "pluginCommands[1].when: "
                                  << "Add ";
@@ -241,6 +266,14 @@ private slots:
         QVERIFY2(error.contains(place), qPrintable(error));
         QVERIFY2(error.contains(remedy), qPrintable(error));
         QVERIFY2(error.endsWith('.'), qPrintable(error));
+    }
+
+    void theSameNameMayStandInSeveralObjects() {
+        VirtualController controller;
+        QVERIFY(take(
+            controller,
+            "{\"bus\": {\"a\": {\"a\": [\"a\", \"a\", \"\\\\\", \"\\\"a\\\": {\"]}, \"b\": {\"a\": {\"a\": \"a\"}}}}"));
+        QCOMPARE(text(controller.bus()->get("b", "a.a")), QString("\"a\""));
     }
 
     void robotAndProjectAreThoseOfTheLastCellAlone() {

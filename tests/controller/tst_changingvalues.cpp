@@ -102,6 +102,58 @@ private slots:
         QCOMPARE(written, 1);
     }
 
+    void aCourseMayRemoveItself() {
+        changing->add("n", [this, kept = QString("once")](qint64 nowMs) {
+            if (nowMs >= 20)
+                changing->remove("n");
+            return QVariant(kept + QString::number(nowMs));
+        });
+        clock->step(60);
+        QVERIFY(!changing->contains("n"));
+        QCOMPARE(text(bus->get("n", "")), QString("\"once0\""));
+    }
+
+    void aKeyDefinedAnewChangesNoMore_data() {
+        QTest::addColumn<bool>("isComputed");
+        QTest::newRow("with a value") << false;
+        QTest::newRow("computed") << true;
+    }
+
+    void aKeyDefinedAnewChangesNoMore() {
+        QFETCH(bool, isComputed);
+        changing->add("n", controller::counter(0, 1000));
+        if (isComputed)
+            bus->defineComputed(
+                "n", [] { return content("100"); }, [](const QString&, const Content&) { return ""; });
+        else
+            bus->define("n", 100);
+        QVERIFY(!changing->contains("n"));
+        QVERIFY(!bus->set("n", "", content("7")));
+        clock->step(2000);
+        QCOMPARE(text(bus->get("n", "")), QString(isComputed ? "100" : "7"));
+    }
+
+    void aCourseMayTakeThePlaceOfAnother() {
+        changing->add("n", controller::counter(0, 1000));
+        changing->add("n", controller::counter(50, 1000));
+        clock->step(1000);
+        QCOMPARE(text(bus->get("n", "")), QString("51"));
+        QVERIFY(!refusalOf(bus->set("n", "", content("7"))).isEmpty());
+    }
+
+    void aCounterStandsAtTheGreatestNumber() {
+        const ChangingValues::Course course = controller::counter(2147483646, 1000);
+        QCOMPARE(course(1000).toInt(), 2147483647);
+        QCOMPARE(course(5000).toInt(), 2147483647);
+    }
+
+    void aWaveMayBeOfAnyHeight() {
+        const ChangingValues::Course course = controller::wave(-1e308, 1e308, 4000);
+        QCOMPARE(course(0).toDouble(), -1e308);
+        QCOMPARE(course(2000).toDouble(), 1e308);
+        QVERIFY(qIsFinite(course(1500).toDouble()));
+    }
+
 private:
     std::unique_ptr<Clock> clock;
     std::unique_ptr<BusTable> bus;

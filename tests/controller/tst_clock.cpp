@@ -6,6 +6,8 @@
 #include <QThread>
 #include <QVector>
 
+#include <stdexcept>
+
 using controller::Clock;
 
 namespace {
@@ -96,6 +98,20 @@ private slots:
         clock.step(40);
         QCOMPARE(nowMsWithin, 20);
         QCOMPARE(told.moments, (QVector<qint64>{20, 40, 60, 70}));
+    }
+
+    void afterAListenerThrewItGoesOn() {
+        Clock clock;
+        const Moments told(&clock);
+        const QMetaObject::Connection throwing = connect(&clock, &Clock::advanced, &clock, [](qint64 nowMs) {
+            if (nowMs == 40)
+                throw std::runtime_error("jammed");
+        });
+        QVERIFY_EXCEPTION_THROWN(clock.step(60), std::runtime_error);
+        QCOMPARE(clock.nowMs(), 40);
+        clock.step(20);
+        QCOMPARE(told.moments, ticksUpTo(80));
+        disconnect(throwing);
     }
 
     void runningByItselfItStopsAtTheTicks() {

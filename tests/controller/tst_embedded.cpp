@@ -59,16 +59,42 @@ private slots:
         disconnect(Channel::controller(), nullptr, &embedded, nullptr);
     }
 
-    void theLinksComeUpInEitherOrder() {
+    void aLinkThatIsTakenDownDuringTheDelayStaysDown_data() {
+        QTest::addColumn<bool>("isBus");
+        QTest::newRow("bus") << true;
+        QTest::newRow("controller link") << false;
+    }
+
+    void aLinkThatIsTakenDownDuringTheDelayStaysDown() {
+        QFETCH(bool, isBus);
         Embedded embedded;
-        embedded.controllerLink()->setUp(true);
-        QVERIFY(Channel::controller()->isUp());
-        QVERIFY(!Channel::bus()->isUp());
-        embedded.bus()->setUp(true);
-        QVERIFY(Channel::bus()->isUp());
-        embedded.controllerLink()->setUp(false);
-        QVERIFY(!Channel::controller()->isUp());
-        QVERIFY(Channel::bus()->isUp());
+        embedded.start(30);
+        (isBus ? embedded.bus() : embedded.controllerLink())->setUp(false);
+        Channel* other = isBus ? Channel::controller() : Channel::bus();
+        QTRY_VERIFY(other->isUp());
+        QTest::qWait(100);
+        QVERIFY(!(isBus ? Channel::bus() : Channel::controller())->isUp());
+    }
+
+    void theLinksComeUpAndGoDownInEitherOrder_data() {
+        QTest::addColumn<bool>("busFirst");
+        QTest::newRow("the bus first") << true;
+        QTest::newRow("the controller link first") << false;
+    }
+
+    void theLinksComeUpAndGoDownInEitherOrder() {
+        QFETCH(bool, busFirst);
+        Embedded embedded;
+        Channel* first = busFirst ? Channel::bus() : Channel::controller();
+        Channel* second = busFirst ? Channel::controller() : Channel::bus();
+        for (const bool up : {true, false, true}) {
+            first->link()->setUp(up);
+            QCOMPARE(first->isUp(), up);
+            QCOMPARE(second->isUp(), !up);
+            second->link()->setUp(up);
+            QCOMPARE(first->isUp(), up);
+            QCOMPARE(second->isUp(), up);
+        }
     }
 
     void bothLinksLeadToOneController() {
@@ -90,6 +116,30 @@ private slots:
         QVERIFY(reply.content);
         QCOMPARE(reply.content->getInt(), 1);
     }
+
+    void aRefusalIsNoticedOnTheLinkThatAsked() {
+        Embedded embedded;
+        embedded.bus()->setUp(true);
+        embedded.controllerLink()->setUp(true);
+        QStringList noticed;
+        connect(embedded.bus(), &controller::EmbeddedLink::noticed, &embedded, [&] { noticed << "bus"; });
+        connect(embedded.controllerLink(), &controller::EmbeddedLink::noticed, &embedded,
+                [&] { noticed << "controller"; });
+        embedded.controller()->bus()->onCommand("open", [](const controller::Content&) {
+            controller::Message request;
+            request.verb = controller::Verb::Request;
+            request.key = "none";
+            Channel::controller()->ask(nullptr, request, 500);
+            return nullptr;
+        });
+        controller::Message open;
+        open.verb = controller::Verb::Command;
+        open.key = "open";
+        QVERIFY(Channel::bus()->send(nullptr, open));
+        QCoreApplication::processEvents();
+        QCOMPARE(noticed, QStringList("controller"));
+    }
+
     void aRemarkIsANoticeOfTheBusAlone() {
         Embedded embedded;
         QStringList noticed;

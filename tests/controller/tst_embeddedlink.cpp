@@ -7,8 +7,10 @@
 
 #include <QElapsedTimer>
 #include <QTest>
+#include <QThread>
 
 #include <memory>
+#include <stdexcept>
 
 Q_DECLARE_METATYPE(controller::Fault)
 
@@ -255,6 +257,75 @@ private slots:
         QCOMPARE(told, QStringList());
         arrive();
         QCOMPARE(told, QStringList("The controller knows no bus key \"none\""));
+    }
+
+    void whoHearsAnAnswerMayDestroyTheLink() {
+        comeUp();
+        connect(link.get(), &Link::answered, controller.get(), [this] { link.reset(); });
+        link->send(message(1, Verb::Get, "a"));
+        link->send(message(2, Verb::Get, "a"));
+        QTRY_VERIFY(!link);
+    }
+
+    void aCommandMayDestroyTheLink() {
+        comeUp();
+        controller->bus()->onCommand("cut", [this](const Content&) {
+            link.reset();
+            return content("1");
+        });
+        link->send(message(1, Verb::Execute, "cut"));
+        QVERIFY(!link);
+    }
+
+    void aCommandMayDestroyTheController() {
+        comeUp();
+        controller->bus()->onCommand("cut", [this](const Content&) {
+            link.reset();
+            controller.reset();
+            return content("1");
+        });
+        link->send(message(1, Verb::Execute, "cut"));
+        QVERIFY(!controller);
+    }
+
+    void afterAHandlerThrewNothingIsTakenForItsNotice() {
+        comeUp();
+        controller->bus()->onCommand("open", [](const Content&) -> Content { throw std::runtime_error("jammed"); });
+        QVERIFY_EXCEPTION_THROWN(link->send(message(1, Verb::Command, "open")), std::runtime_error);
+        controller->bus()->get("none", "");
+        arrive();
+        QCOMPARE(told, QStringList());
+    }
+
+    void theDelayCountsFromTheQuestionOn() {
+        comeUp();
+        controller->bus()->onCommand("slow", [](const Content&) {
+            QThread::msleep(100);
+            return content("1");
+        });
+        link->setDelayMs(100);
+        QElapsedTimer wall;
+        wall.start();
+        link->send(message(1, Verb::Execute, "slow"));
+        Answer answer;
+        QVERIFY(link->receive(&answer, 50));
+        QVERIFY2(wall.elapsed() < 190, qPrintable(QString::number(wall.elapsed())));
+    }
+
+    void aHandlerThatTakesLongerThanTheTimeOutIsTooLate() {
+        Channel channel("test");
+        channel.setLink(link.get());
+        comeUp();
+        controller->bus()->onCommand("slow", [](const Content&) {
+            QThread::msleep(60);
+            return content("1");
+        });
+        QStringList kinds;
+        connect(Traffic::instance(), &Traffic::recorded, &channel,
+                [&](const TrafficEntry& entry) { kinds << entry.kind; });
+        QCOMPARE(channel.ask(nullptr, message(0, Verb::Execute, "slow"), 20).state, Channel::Reply::TimedOut);
+        QTRY_COMPARE(kinds.join(' '), QString("execute time-out late"));
+        channel.setLink(nullptr);
     }
 
     void faultsSpoilAnswers_data() {

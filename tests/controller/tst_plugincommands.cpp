@@ -33,6 +33,8 @@ private slots:
         message.verb = Verb::Command;
         QVERIFY(!PluginCommands::isPluginCommand(message));
         message.verb = Verb::Execute;
+        message.subKey = "";
+        QVERIFY(PluginCommands::isPluginCommand(message));
         message.subKey.clear();
         QVERIFY(!PluginCommands::isPluginCommand(message));
     }
@@ -86,6 +88,14 @@ private slots:
         QVERIFY2(reason.contains("\"ServiceAPI.plugin\""), qPrintable(reason));
         QCOMPARE(noticed.size(), 1);
         QCOMPARE(noticed.first().first().toString(), reason);
+    }
+
+    void anEmptyEndpointIsCalledOne() {
+        PluginCommands commands;
+        Message message = pluginCommand("weld", content("[1]"));
+        message.subKey = "";
+        QCOMPARE(refusalOf(commands.handle(message)),
+                 QString("The plugin command \"weld\" names no endpoint. Send it to \"ServiceAPI.plugin\"."));
     }
 };
 

@@ -6,6 +6,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <stdexcept>
+
 Q_DECLARE_METATYPE(controller::Message)
 
 using controller::Content;
@@ -89,14 +91,38 @@ private slots:
         QCOMPARE(noticed.first().first().toString(), reason);
     }
 
-    void theSameSentenceIsToldOnce() {
+    void aSentenceIsHandedOutOnce() {
         VirtualController controller;
-        QSignalSpy noticed(&controller, &VirtualController::noticed);
-        for (int i = 0; i < 5; ++i)
-            QVERIFY(!refusalOf(controller.handle(message(Verb::Get, "x"))).isEmpty());
-        QCOMPARE(noticed.size(), 1);
-        controller.handle(message(Verb::Get, "y"));
-        QCOMPARE(noticed.size(), 2);
+        QVERIFY(!controller.wasHandedOut("x"));
+        QVERIFY(controller.handOutOnce("x"));
+        QVERIFY(controller.wasHandedOut("x"));
+        QVERIFY(!controller.handOutOnce("x"));
+        QVERIFY(controller.handOutOnce("y"));
+    }
+
+    void theAskerIsTheInnermost() {
+        VirtualController controller;
+        QObject inner;
+        QList<const QObject*> askers;
+        controller.requests()->onRequest("inner", [&](const Content&) {
+            askers << controller.asker();
+            return nullptr;
+        });
+        controller.bus()->onCommand("outer", [&](const Content&) {
+            controller.handle(message(Verb::Request, "inner"), &inner);
+            askers << controller.asker();
+            return nullptr;
+        });
+        controller.handle(message(Verb::Command, "outer"), this);
+        QCOMPARE(askers, (QList<const QObject*>{&inner, this}));
+        QVERIFY(!controller.asker());
+    }
+
+    void aHandlerThatThrowsLeavesNoAsker() {
+        VirtualController controller;
+        controller.bus()->onCommand("open", [](const Content&) -> Content { throw std::runtime_error("jammed"); });
+        QVERIFY_EXCEPTION_THROWN(controller.handle(message(Verb::Command, "open"), this), std::runtime_error);
+        QVERIFY(!controller.asker());
     }
 };
 

@@ -3,9 +3,15 @@
 #include "brisk/relay.h"
 #include "helm/controllermanager.h"
 #include "helm/managerhelper.h"
+#include "helm/messagelist.h"
 
+#include <QElapsedTimer>
 #include <QJsonObject>
+#include <QMap>
 #include <QTest>
+#include <QTimer>
+
+#include <functional>
 
 using brisk::standin::TrafficEntry;
 using controller::Fault;
@@ -143,6 +149,90 @@ private slots:
         QCOMPARE(robot.traffic().size(), 0);
     }
 
+    void whatIsUnknownGetsOneLineInTheMessageList_data() {
+        QTest::addColumn<QString>("what");
+        for (const char* what : {"get", "set", "command", "execute", "plugin command", "request", "posted", "watch"})
+            QTest::newRow(what) << what;
+    }
+
+    void whatIsUnknownGetsOneLineInTheMessageList() {
+        QFETCH(QString, what);
+        Robot robot;
+        robot.connectLinks();
+        helm::standin::MessageList::instance()->clear();
+        for (int i = 0; i < 3; ++i) {
+            ask(what, "cell.none");
+            robot.settle();
+        }
+        const QList<helm::standin::Message> lines = helm::standin::MessageList::instance()->messages();
+        QCOMPARE(lines.size(), 1);
+        QCOMPARE(lines.first().source, QString("controller"));
+        QVERIFY2(lines.first().text.contains("\"cell.none\""), qPrintable(lines.first().text));
+        relay()->watch(this, "cell.none", false);
+    }
+
+    void anUnknownNameGetsItsLineAlthoughTheLinkGoesDown_data() { whatIsUnknownGetsOneLineInTheMessageList_data(); }
+
+    void anUnknownNameGetsItsLineAlthoughTheLinkGoesDown() {
+        QFETCH(QString, what);
+        Robot robot;
+        robot.connectLinks();
+        helm::standin::MessageList::instance()->clear();
+        ask(what, "cell.none");
+        for (const bool up : {false, true}) {
+            robot.embedded()->bus()->setUp(up);
+            robot.embedded()->controllerLink()->setUp(up);
+        }
+        robot.settle();
+        QCOMPARE(helm::standin::MessageList::instance()->messages().size(), 1);
+        relay()->watch(this, "cell.none", false);
+    }
+
+    void aPluginCommandWithoutAnEndpointIsCalledSo_data() {
+        QTest::addColumn<QString>("endpoint");
+        QTest::newRow("empty") << QString("");
+        QTest::newRow("null") << QString();
+    }
+
+    void aPluginCommandWithoutAnEndpointIsCalledSo() {
+        QFETCH(QString, endpoint);
+        Robot robot;
+        robot.connectLinks();
+        brisk::ModuleObject* answer = relay()->execPluginCommand(nullptr, "weld", endpoint, 1);
+        const QString reason = answer->c("error")->getString();
+        QVERIFY2(reason.contains("names no endpoint"), qPrintable(reason));
+    }
+
+    void nothingArrivesWhileARequestHoldsTheThread() {
+        Robot robot;
+        robot.connectLinks();
+        for (const char* request : {"cell.load", "cell.hold"})
+            robot.controller()->requests()->onRequest(
+                request, [](const controller::Content&) { return brisk::standin::contentOf(QVariant(7)); });
+        relay()->watch(this, "controller.uptime", true);
+        QStringList heard;
+        QObject context;
+        QTimer::singleShot(0, &context, [&] { heard << "timer"; });
+        QMetaObject::invokeMethod(
+            &context, [&] { heard << "posted event"; }, Qt::QueuedConnection);
+        connect(relay()->watchNode("controller.uptime"), &brisk::ModuleObject::changed, &context,
+                [&] { heard << "delivery"; });
+        connect(controllers()->cmdItemMobj("response", "cell.load"), &brisk::ModuleObject::changed, &context,
+                [&] { heard << "answer"; });
+        robot.controller()->clock()->step(1000);
+        QVERIFY(controllers()->request("cell", "load", QJsonValue(), 1000));
+        robot.embedded()->controllerLink()->setDelayMs(80);
+        QElapsedTimer held;
+        held.start();
+        controllers()->execRequest("cell", "hold", QJsonValue(), true, 500);
+        QVERIFY(held.elapsed() >= 80);
+        QCOMPARE(heard.join(", "), QString());
+        robot.settle();
+        heard.sort();
+        QCOMPARE(heard, (QStringList{"answer", "delivery", "posted event", "timer"}));
+        relay()->watch(this, "controller.uptime", false);
+    }
+
     void theRobotSaysWhereItWasJoggedTo() {
         Robot robot;
         robot.loadDefaultCell();
@@ -179,6 +269,19 @@ private slots:
     }
 
 private:
+    void ask(const QString& what, const QString& name) {
+        const QMap<QString, std::function<void()>> ways{
+            {"get", [&] { relay()->get(nullptr, name); }},
+            {"set", [&] { relay()->set(nullptr, name, QString(), 1); }},
+            {"command", [&] { relay()->command(nullptr, name); }},
+            {"execute", [&] { relay()->execCommand(nullptr, name); }},
+            {"plugin command", [&] { relay()->execPluginCommand(nullptr, name, "ServiceAPI.none", 1); }},
+            {"request", [&] { controllers()->execRequest("cell", "none", QJsonValue(), true, 500); }},
+            {"posted", [&] { controllers()->request("cell", "none", QJsonValue(), 500); }},
+            {"watch", [&] { relay()->watch(this, name, true); }}};
+        ways.value(what)();
+    }
+
     static helm::ControllerManager* controllers() { return helm::ManagerHelper::instance()->controllerManager(); }
 };
 

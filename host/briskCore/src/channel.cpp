@@ -169,8 +169,9 @@ Channel::Reply Channel::ask(const QObject* sender, Message message, int timeoutM
 bool Channel::Private::awaitAnswer(quint64 id, qint64 deadlineMs) {
     Answer answer;
     while (!arrived.contains(id)) {
-        const qint64 leftMs = std::max<qint64>(0, deadlineMs - clock.elapsed());
-        if (!q->isUp() || !link->receive(&answer, static_cast<int>(leftMs)))
+        // Sending may have taken longer than there was time.
+        const qint64 leftMs = deadlineMs - clock.elapsed();
+        if (leftMs < 0 || !q->isUp() || !link->receive(&answer, static_cast<int>(leftMs)))
             return arrived.contains(id);
         take(answer);
     }

@@ -147,7 +147,9 @@ ModuleObject* Relay::execCommand(QObject* sender, const QString& key, ModuleObje
 
 ModuleObject* Relay::execPluginCommand(QObject* sender, const QString& name, const QString& endpoint,
                                        const QVariant& value) {
-    return d->ask(sender, {0, Verb::Execute, name, endpoint, contentOf(value), true}, d->pluginReplies.emptied(name));
+    // Not null, so that an empty one is no other command.
+    const QString subKey = endpoint.isNull() ? QStringLiteral("") : endpoint;
+    return d->ask(sender, {0, Verb::Execute, name, subKey, contentOf(value), true}, d->pluginReplies.emptied(name));
 }
 
 void Relay::watch(QObject* sender, const QString& key, bool on) {

@@ -3,6 +3,8 @@
 #include "controller/cellfile.h"
 #include "controller/robot/robot.h"
 
+#include "helm/managerhelper.h"
+
 #include <QCoreApplication>
 
 using brisk::standin::Traffic;
@@ -17,6 +19,8 @@ const qint64 renewedEveryMs = 200;
 } // namespace
 
 Robot::Robot() {
+    // What the controller has to say reaches the message list through it.
+    helm::ManagerHelper::instance();
     QObject::connect(Traffic::instance(), &Traffic::recorded, &m_embedded,
                      [this](const TrafficEntry& entry) { m_traffic << entry; });
 }

@@ -33,7 +33,7 @@ struct Message {
     quint64 id = 0; ///< one in the process, rising
     Verb verb = Verb::Get;
     QString key;    ///< a bus key, or the full command of a request
-    QString subKey; ///< of get and set; of a plugin command, its endpoint
+    QString subKey; ///< of get and set; of a plugin command, its endpoint, which is never null
     Content content;
     bool wantsAnswer = false;
 };
