@@ -850,35 +850,35 @@
         <translation>Die Plugins sind beendet.</translation>
     </message>
     <message>
-        <source>The entry "%1" of the navigation has no page (%2).</source>
+        <source>The entry &quot;%1&quot; of the navigation has no page (%2).</source>
         <translation>Der Eintrag „%1“ der Navigation hat keine Seite (%2).</translation>
     </message>
     <message>
-        <source>Page "%1".</source>
+        <source>Page &quot;%1&quot;.</source>
         <translation>Seite „%1“.</translation>
     </message>
     <message>
-        <source>Page "%1" of %2.</source>
+        <source>Page &quot;%1&quot; of %2.</source>
         <translation>Seite „%1“ von %2.</translation>
     </message>
     <message>
-        <source>Pressed "%1" on the page of %2.</source>
+        <source>Pressed &quot;%1&quot; on the page of %2.</source>
         <translation>„%1“ auf der Seite von %2 gedrückt.</translation>
     </message>
     <message>
-        <source>%1: what "%2" opened did not go away when it was pressed again.</source>
+        <source>%1: what &quot;%2&quot; opened did not go away when it was pressed again.</source>
         <translation>%1: Was „%2“ geöffnet hat, ist beim zweiten Drücken nicht verschwunden.</translation>
     </message>
     <message>
-        <source>Side-bar page "%1" of %2.</source>
+        <source>Side-bar page &quot;%1&quot; of %2.</source>
         <translation>Seite „%1“ von %2 in der Seitenleiste.</translation>
     </message>
     <message>
-        <source>The physical keys "%1" of %2 are disabled now.</source>
+        <source>The physical keys &quot;%1&quot; of %2 are disabled now.</source>
         <translation>Die Tasten „%1“ von %2 sind jetzt gesperrt.</translation>
     </message>
     <message>
-        <source>Physical keys "%1" of %2.</source>
+        <source>Physical keys &quot;%1&quot; of %2.</source>
         <translation>Tasten „%1“ von %2.</translation>
     </message>
     <message>
@@ -890,7 +890,7 @@
         <translation>%1 kann nicht geschrieben werden: %2</translation>
     </message>
     <message>
-        <source>Developer dock, tab "%1".</source>
+        <source>Developer dock, tab &quot;%1&quot;.</source>
         <translation>Entwicklerfenster, Reiter „%1“.</translation>
     </message>
 </context>

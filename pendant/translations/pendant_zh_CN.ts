@@ -850,35 +850,35 @@
         <translation>插件已停止。</translation>
     </message>
     <message>
-        <source>The entry "%1" of the navigation has no page (%2).</source>
+        <source>The entry &quot;%1&quot; of the navigation has no page (%2).</source>
         <translation>导航项“%1”没有页面（%2）。</translation>
     </message>
     <message>
-        <source>Page "%1".</source>
+        <source>Page &quot;%1&quot;.</source>
         <translation>页面“%1”。</translation>
     </message>
     <message>
-        <source>Page "%1" of %2.</source>
+        <source>Page &quot;%1&quot; of %2.</source>
         <translation>%2 的页面“%1”。</translation>
     </message>
     <message>
-        <source>Pressed "%1" on the page of %2.</source>
+        <source>Pressed &quot;%1&quot; on the page of %2.</source>
         <translation>在 %2 的页面上按下“%1”。</translation>
     </message>
     <message>
-        <source>%1: what "%2" opened did not go away when it was pressed again.</source>
+        <source>%1: what &quot;%2&quot; opened did not go away when it was pressed again.</source>
         <translation>%1：再次按下后，“%2”打开的内容没有消失。</translation>
     </message>
     <message>
-        <source>Side-bar page "%1" of %2.</source>
+        <source>Side-bar page &quot;%1&quot; of %2.</source>
         <translation>%2 的侧边栏页面“%1”。</translation>
     </message>
     <message>
-        <source>The physical keys "%1" of %2 are disabled now.</source>
+        <source>The physical keys &quot;%1&quot; of %2 are disabled now.</source>
         <translation>%2 的实体按键“%1”现已禁用。</translation>
     </message>
     <message>
-        <source>Physical keys "%1" of %2.</source>
+        <source>Physical keys &quot;%1&quot; of %2.</source>
         <translation>%2 的实体按键“%1”。</translation>
     </message>
     <message>
@@ -890,7 +890,7 @@
         <translation>无法写入 %1：%2</translation>
     </message>
     <message>
-        <source>Developer dock, tab "%1".</source>
+        <source>Developer dock, tab &quot;%1&quot;.</source>
         <translation>开发者窗口，标签页“%1”。</translation>
     </message>
 </context>
