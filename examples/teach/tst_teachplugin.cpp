@@ -7,6 +7,8 @@
 
 #include <kite/interfacemanager.h>
 
+#include <QJsonArray>
+#include <QJsonObject>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -46,6 +48,8 @@ private:
     template <typename Widget> Widget* find(const QString& name) {
         return m_pendant->page("teach")->findChild<Widget*>(name);
     }
+    // What the jog page shows.
+    static QJsonObject position() { return kite::kiteInterface()->getRelayData("robot.position").toObject(); }
     QString answer() { return find<QLabel>("answer")->text(); }
     QString count() { return find<QLabel>("count")->text(); }
     QStringList listed() {
@@ -104,6 +108,9 @@ void TestTeach::teachingAddsThePointWhereTheRobotStands_data() {
 void TestTeach::teachingAddsThePointWhereTheRobotStands() {
     QFETCH(QString, button);
     QFETCH(bool, joints);
+    const double before = position()["joint"].toObject()["inner_pos"].toArray().at(0).toDouble();
+    m_robot->jog({controller::JogCommand::Joint, 0, 50}, 500);
+    QVERIFY(position()["joint"].toObject()["inner_pos"].toArray().at(0).toDouble() != before);
     teach("P1", button);
     QCOMPARE(answer(), QString("“P1” is taught."));
     QCOMPARE(listed().last(), QString("P1"));
@@ -111,7 +118,7 @@ void TestTeach::teachingAddsThePointWhereTheRobotStands() {
     QVERIFY(teacher.has("P1", joints ? Teacher::Kind::Joints : Teacher::Kind::Pose));
     const QVector<double> pose = kite::kiteInterface()->getPointDataByName("P1");
     QCOMPARE(pose.size(), 6);
-    const QJsonObject here = kite::kiteInterface()->getRelayData("robot.position").toObject();
+    const QJsonObject here = position();
     if (!joints) {
         const QJsonObject place = here["cartesian"].toObject()["pose"].toObject()["frame"].toObject()["pos"].toObject();
         QCOMPARE(pose.mid(0, 3),

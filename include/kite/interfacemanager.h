@@ -196,7 +196,8 @@ public:
     /// \return true
     bool addVarData(const QString& name, QVariant value, bool pers);
 
-    /// Sets the value of every variable of that name. The type stays what it was when the variable was added.
+    /// Sets the value of every variable of that name. The type stays what it was when the variable was added. A value
+    /// with parts, such as a list that the project was loaded with, keeps its parts: readers see those and not `value`.
     /// \return true, also when there is none
     bool updateVarData(const QString& name, QVariant value);
 
@@ -261,8 +262,8 @@ public:
     /// @name Points
     ///
     /// The taught points of the project that is open on the pendant, in its data tree below "orca.project.point._list".
-    /// Positions are in mm and angles in degrees, as the controller delivers them: the pose of the tool in the work
-    /// object, a about Z, b about the new Y, c about the newest X.
+    /// Numbers stand there as the controller delivers them, units and all; the virtual one delivers mm and degrees: the
+    /// pose of the tool in the work object, a about Z, b about the new Y, c about the newest X.
     ///
     /// Mind the case of names: getPointDataByName() and the JSON look-ups compare exactly; addCurrentPoint() and
     /// changeCartPoint() ignore case.
@@ -278,11 +279,13 @@ public:
     ///
     /// \param isJoint true: the joints; false: the pose in the work object, with configuration
     /// \param tool    the tool's name; \param wobj the work object's name
-    /// \return false when the controller link is down (or the pendant has no list of points): nothing is changed then
+    /// \return false when the controller link is down (or the pendant has no list of points): nothing is changed then.
+    ///         Also false when somebody deletes the list as the old points go
     bool addCurrentPoint(const QString& name, bool isJoint, const QString& tool, const QString& wobj);
 
-    /// The pose of the first point of exactly that name: x, y, z in mm, a, b, c in degrees.
-    /// \return empty when there is no such point; six zeros when it is a joint point
+    /// The pose of the first point of exactly that name: x, y, z, a, b, c.
+    /// \return empty when there is no such point; six zeros when it is a joint point, unless the project's template
+    ///         gives points a pose to begin with
     QVector<double> getPointDataByName(const QString& name);
 
     /// The first point of exactly that name as JSON; its position is under "value", "[0][0][0]".
