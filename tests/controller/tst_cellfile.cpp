@@ -26,6 +26,121 @@ QString pluginAnswer(VirtualController& controller, const char* data) {
     return text(controller.handle(message));
 }
 
+void mistakesOfSections() {
+    QTest::newRow("no JSON") << "{\n  \"bus\": {\n    \"a\": x\n  }\n}"
+                             << "Line 3, column"
+                             << "not JSON";
+    QTest::newRow("empty file") << ""
+                                << "Line 1, column 1"
+                                << "not JSON";
+    QTest::newRow("array") << "[1]"
+                           << "object"
+                           << "{\"bus\"";
+    QTest::newRow("unknown section") << R"({"buss": {}})"
+                                     << "buss: "
+                                     << "\"bus\"";
+    QTest::newRow("bus is an array") << R"({"bus": []})"
+                                     << "bus: "
+                                     << "Write an object";
+    QTest::newRow("rules are an object") << R"({"pluginCommands": {}})"
+                                         << "pluginCommands: "
+                                         << "Write an array";
+    QTest::newRow("empty name") << R"({"requests": {"": 1}})"
+                                << "requests: "
+                                << "empty";
+    QTest::newRow("own key") << R"({"bus": {"controller.uptime": 1}})"
+                             << "bus[\"controller.uptime\"]: "
+                             << "another name";
+    QTest::newRow("own changing key") << R"({"changing": {"controller.x": 1}})"
+                                      << "changing[\"controller.x\"]: "
+                                      << "another name";
+    QTest::newRow("key of the robot") << R"({"bus": {"robot.axes": 1}})"
+                                      << "bus[\"robot.axes\"]: "
+                                      << "another name";
+    QTest::newRow("key of the mirror") << R"({"changing": {"mirror.x": {"count": {"everyS": 1}}}})"
+                                       << "changing[\"mirror.x\"]: "
+                                       << "another name";
+    QTest::newRow("own command") << R"({"commands": {"project.variable": 1}})"
+                                 << "commands[\"project.variable\"]: "
+                                 << "another name";
+    QTest::newRow("command like an own one") << R"({"commands": {"controller.x": 1}})"
+                                             << "commands[\"controller.x\"]: "
+                                             << "another name";
+    QTest::newRow("request like an own one") << R"({"requests": {"controller.x": 1}})"
+                                             << "requests[\"controller.x\"]: "
+                                             << "another name";
+    QTest::newRow("key twice") << R"({"bus": {"a": 1}, "changing": {"a": {"count": {"everyS": 1}}}})"
+                               << "changing.a: "
+                               << "Remove one";
+}
+
+void mistakesOfCourses() {
+    QTest::newRow("no course") << R"({"changing": {"a": 5}})"
+                               << "changing.a: "
+                               << "\"wave\"";
+    QTest::newRow("unknown course") << R"({"changing": {"a": {"saw": {}}}})"
+                                    << "changing.a: "
+                                    << "\"wave\"";
+    QTest::newRow("two courses") << R"({"changing": {"a": {"wave": {}, "count": {}}}})"
+                                 << "changing.a: "
+                                 << "\"wave\"";
+    QTest::newRow("misspelt") << R"({"changing": {"a": {"wave": {"min": 1, "max": 2, "period": 3}}}})"
+                              << "changing.a.wave.period: "
+                              << "\"periodS\"";
+    QTest::newRow("missing") << R"({"changing": {"a": {"wave": {"min": 1, "periodS": 3}}}})"
+                             << "changing.a.wave.max: "
+                             << "Add a number";
+    QTest::newRow("no number") << R"({"changing": {"a": {"wave": {"min": "1", "max": 2, "periodS": 3}}}})"
+                               << "changing.a.wave.min: "
+                               << "Write a number";
+    QTest::newRow("upside down") << R"({"changing": {"a": {"wave": {"min": 3, "max": 2, "periodS": 3}}}})"
+                                 << "changing.a.wave: "
+                                 << "Exchange";
+    QTest::newRow("too short") << R"({"changing": {"a": {"wave": {"min": 1, "max": 2, "periodS": 0}}}})"
+                               << "changing.a.wave.periodS: "
+                               << "from 1 to 1000000 seconds";
+    QTest::newRow("too often") << R"({"changing": {"a": {"count": {"everyS": -1}}}})"
+                               << "changing.a.count.everyS: "
+                               << "from 0.1 to 1000000 seconds";
+    QTest::newRow("too long") << R"({"changing": {"a": {"count": {"everyS": 1e30}}}})"
+                              << "changing.a.count.everyS: "
+                              << "from 0.1 to 1000000 seconds";
+    QTest::newRow("half a part") << R"({"changing": {"a": {"count": {"from": 0.5, "everyS": 1}}}})"
+                                 << "changing.a.count.from: "
+                                 << "whole number";
+    QTest::newRow("from far away") << R"({"changing": {"a": {"count": {"from": 1e12, "everyS": 1}}}})"
+                                   << "changing.a.count.from: "
+                                   << "from -1000000000 to 1000000000";
+    QTest::newRow("greatest int") << R"({"changing": {"a": {"count": {"from": 2147483647, "everyS": 1}}}})"
+                                  << "changing.a.count.from: "
+                                  << "from -1000000000 to 1000000000";
+    QTest::newRow("too low") << R"({"changing": {"a": {"wave": {"min": -1e308, "max": 1e308, "periodS": 3}}}})"
+                             << "changing.a.wave.min: "
+                             << "from -1000000000 to 1000000000";
+    QTest::newRow("too high") << R"({"changing": {"a": {"wave": {"min": 1, "max": 1e308, "periodS": 3}}}})"
+                              << "changing.a.wave.max: "
+                              << "from -1000000000 to 1000000000";
+}
+
+void mistakesOfNamesAndRules() {
+    QTest::newRow("section twice") << "{\"bus\": {\"a\": 1},\n \"bus\": {\"b\": 1}}"
+                                   << "Line 2, column 2: "
+                                   << "\"bus\" stands";
+    QTest::newRow("key twice, once in escapes")
+        << "{\"bus\": {\"x\": [{\"a\": 1}, {\"a\": 1}], \"io\": 1, \"\\u0069o\": 2}}"
+        << "Line 1, column 46: "
+        << "\"io\" stands";
+    QTest::newRow("no when") << R"({"pluginCommands": [{"when": 1, "answer": []}, {"answer": []}]})"
+                             << "pluginCommands[1].when: "
+                             << "Add ";
+    QTest::newRow("no answer") << R"({"pluginCommands": [{"when": 1}]})"
+                               << "pluginCommands[0].answer: "
+                               << "Add an array";
+    QTest::newRow("answer is no array") << R"({"pluginCommands": [{"when": 1, "answer": 1}]})"
+                                        << "pluginCommands[0].answer: "
+                                        << "Write an array";
+}
+
 } // namespace
 
 class TestCellFile : public QObject {
@@ -147,112 +262,9 @@ private slots:
         QTest::addColumn<QString>("json");
         QTest::addColumn<QString>("place");
         QTest::addColumn<QString>("remedy");
-        QTest::newRow("no JSON") << "{\n  \"bus\": {\n    \"a\": x\n  }\n}"
-                                 << "Line 3, column"
-                                 << "not JSON";
-        QTest::newRow("empty file") << ""
-                                    << "Line 1, column 1"
-                                    << "not JSON";
-        QTest::newRow("array") << "[1]"
-                               << "object"
-                               << "{\"bus\"";
-        QTest::newRow("unknown section") << R"({"buss": {}})"
-                                         << "buss: "
-                                         << "\"bus\"";
-        QTest::newRow("bus is an array") << R"({"bus": []})"
-                                         << "bus: "
-                                         << "Write an object";
-        QTest::newRow("rules are an object") << R"({"pluginCommands": {}})"
-                                             << "pluginCommands: "
-                                             << "Write an array";
-        QTest::newRow("empty name") << R"({"requests": {"": 1}})"
-                                    << "requests: "
-                                    << "empty";
-        QTest::newRow("own key") << R"({"bus": {"controller.uptime": 1}})"
-                                 << "bus[\"controller.uptime\"]: "
-                                 << "another name";
-        QTest::newRow("own changing key") << R"({"changing": {"controller.x": 1}})"
-                                          << "changing[\"controller.x\"]: "
-                                          << "another name";
-        QTest::newRow("key of the robot") << R"({"bus": {"robot.axes": 1}})"
-                                          << "bus[\"robot.axes\"]: "
-                                          << "another name";
-        QTest::newRow("key of the mirror") << R"({"changing": {"mirror.x": {"count": {"everyS": 1}}}})"
-                                           << "changing[\"mirror.x\"]: "
-                                           << "another name";
-        QTest::newRow("own command") << R"({"commands": {"project.variable": 1}})"
-                                     << "commands[\"project.variable\"]: "
-                                     << "another name";
-        QTest::newRow("command like an own one") << R"({"commands": {"controller.x": 1}})"
-                                                 << "commands[\"controller.x\"]: "
-                                                 << "another name";
-        QTest::newRow("request like an own one") << R"({"requests": {"controller.x": 1}})"
-                                                 << "requests[\"controller.x\"]: "
-                                                 << "another name";
-        QTest::newRow("key twice") << R"({"bus": {"a": 1}, "changing": {"a": {"count": {"everyS": 1}}}})"
-                                   << "changing.a: "
-                                   << "Remove one";
-        QTest::newRow("no course") << R"({"changing": {"a": 5}})"
-                                   << "changing.a: "
-                                   << "\"wave\"";
-        QTest::newRow("unknown course") << R"({"changing": {"a": {"saw": {}}}})"
-                                        << "changing.a: "
-                                        << "\"wave\"";
-        QTest::newRow("two courses") << R"({"changing": {"a": {"wave": {}, "count": {}}}})"
-                                     << "changing.a: "
-                                     << "\"wave\"";
-        QTest::newRow("misspelt") << R"({"changing": {"a": {"wave": {"min": 1, "max": 2, "period": 3}}}})"
-                                  << "changing.a.wave.period: "
-                                  << "\"periodS\"";
-        QTest::newRow("missing") << R"({"changing": {"a": {"wave": {"min": 1, "periodS": 3}}}})"
-                                 << "changing.a.wave.max: "
-                                 << "Add a number";
-        QTest::newRow("no number") << R"({"changing": {"a": {"wave": {"min": "1", "max": 2, "periodS": 3}}}})"
-                                   << "changing.a.wave.min: "
-                                   << "Write a number";
-        QTest::newRow("upside down") << R"({"changing": {"a": {"wave": {"min": 3, "max": 2, "periodS": 3}}}})"
-                                     << "changing.a.wave: "
-                                     << "Exchange";
-        QTest::newRow("too short") << R"({"changing": {"a": {"wave": {"min": 1, "max": 2, "periodS": 0}}}})"
-                                   << "changing.a.wave.periodS: "
-                                   << "from 1 to 1000000 seconds";
-        QTest::newRow("too often") << R"({"changing": {"a": {"count": {"everyS": -1}}}})"
-                                   << "changing.a.count.everyS: "
-                                   << "from 0.1 to 1000000 seconds";
-        QTest::newRow("too long") << R"({"changing": {"a": {"count": {"everyS": 1e30}}}})"
-                                  << "changing.a.count.everyS: "
-                                  << "from 0.1 to 1000000 seconds";
-        QTest::newRow("half a part") << R"({"changing": {"a": {"count": {"from": 0.5, "everyS": 1}}}})"
-                                     << "changing.a.count.from: "
-                                     << "whole number";
-        QTest::newRow("from far away") << R"({"changing": {"a": {"count": {"from": 1e12, "everyS": 1}}}})"
-                                       << "changing.a.count.from: "
-                                       << "from -1000000000 to 1000000000";
-        QTest::newRow("greatest int") << R"({"changing": {"a": {"count": {"from": 2147483647, "everyS": 1}}}})"
-                                      << "changing.a.count.from: "
-                                      << "from -1000000000 to 1000000000";
-        QTest::newRow("too low") << R"({"changing": {"a": {"wave": {"min": -1e308, "max": 1e308, "periodS": 3}}}})"
-                                 << "changing.a.wave.min: "
-                                 << "from -1000000000 to 1000000000";
-        QTest::newRow("too high") << R"({"changing": {"a": {"wave": {"min": 1, "max": 1e308, "periodS": 3}}}})"
-                                  << "changing.a.wave.max: "
-                                  << "from -1000000000 to 1000000000";
-        QTest::newRow("section twice") << "{\"bus\": {\"a\": 1},\n \"bus\": {\"b\": 1}}"
-                                       << "Line 2, column 2: "
-                                       << "\"bus\" stands";
-        QTest::newRow("key twice, once in escapes")
-            << "{\"bus\": {\"x\": [{\"a\": 1}, {\"a\": 1}], \"io\": 1, \"\\u0069o\": 2}}"
-            << "Line 1, column 46: "
-            << "\"io\" stands";
-        QTest::newRow("no when") << R"({"pluginCommands": [{"when": 1, "answer": []}, {"answer": []}]})"
-                                 << "pluginCommands[1].when: "
-                                 << "Add ";
-        QTest::newRow("no answer") << R"({"pluginCommands": [{"when": 1}]})"
-                                   << "pluginCommands[0].answer: "
-                                   << "Add an array";
-        QTest::newRow("answer is no array") << R"({"pluginCommands": [{"when": 1, "answer": 1}]})"
-                                            << "pluginCommands[0].answer: "
-                                            << "Write an array";
+        mistakesOfSections();
+        mistakesOfCourses();
+        mistakesOfNamesAndRules();
     }
 
     void aMistakeIsNamedWithItsPlace() {
