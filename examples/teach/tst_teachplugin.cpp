@@ -40,6 +40,7 @@ private slots:
     void twoPosesAreCompared();
     void whatWasTaughtIsCountedAndKept();
     void theCountIsDeletedByTheController();
+    void aControllerThatRefusesKeepsTheCount();
     void withoutTheBusTheCountStays();
 
 private:
@@ -215,6 +216,21 @@ void TestTeach::theCountIsDeletedByTheController() {
     m_robot->settle();
     QTRY_VERIFY(!kite::kiteInterface()->getVarDataList("").contains("teach_count"));
     QTRY_COMPARE(count(), QString("Nothing counted yet"));
+}
+
+void TestTeach::aControllerThatRefusesKeepsTheCount() {
+    cleanup();
+    QTemporaryFile cell;
+    QVERIFY(cell.open());
+    cell.write(R"({"project": {"name": "strict"}, "refuse": {"remove": ["teach_count"]}})");
+    cell.close();
+    begin(cell.fileName());
+    teach("P1", "teachPose");
+    m_pendant->expectError("refuses to remove the variable \"teach_count\"");
+    QVERIFY(m_pendant->press("forget"));
+    m_robot->settle();
+    QCOMPARE(answer(), QString("The controller refused to delete “teach_count”."));
+    QCOMPARE(count(), QString("Taught: 1"));
 }
 
 void TestTeach::withoutTheBusTheCountStays() {
