@@ -36,15 +36,15 @@ QString labelOf(const QObject* sender) {
                                           : sender->objectName();
 }
 
-bool isHeard() {
-    return Traffic::instance()->isHeard();
-}
-
 double inMs(qint64 ns) {
     return static_cast<double>(ns) / 1e6;
 }
 
 } // namespace
+
+bool TrafficWriter::isHeard() {
+    return Traffic::instance()->isHeard();
+}
 
 QString keyOf(const Message& message) {
     return message.subKey.isEmpty() ? message.key : message.key + QLatin1Char('.') + message.subKey;

@@ -16,6 +16,9 @@ public:
     explicit TrafficWriter(const QString& channel) : m_channel(channel) {}
 
     void out(const standin::Message& message, const QObject* sender, bool linkDown) const;
+    /// Whether anybody listens, so that nothing is made for nobody.
+    static bool isHeard();
+
     void answer(const QString& key, const standin::Content& content, qint64 tookNs) const;
     void timeOut(const QString& key, qint64 tookNs) const;
     void late(const standin::Content& content) const;

@@ -5,6 +5,8 @@
 #include <QJsonObject>
 #include <QTest>
 
+#include <stdexcept>
+
 using brisk::standin::Channel;
 using brisk::standin::contentOf;
 using brisk::standin::Message;
@@ -30,6 +32,7 @@ private slots:
     void aTimeOutIsTold();
     void whatIsPostedWhenTheLinkGoesDownIsTold();
     void anAnswerThatCameTooLateIsTold();
+    void anAnswerToAQuestionThatThrewIsLate();
     void aPostedAnswerIsTold();
     void aDeliveryTellsHowLongItsListenersTook();
     void aNoticeIsTold();
@@ -146,6 +149,16 @@ void TrafficOfChannels::anAnswerThatCameTooLateIsTold() {
     QCOMPARE(m_entries.size(), 1);
     QCOMPARE(m_entries.first().kind, QString("late"));
     QCOMPARE(m_entries.first().value, QJsonValue("old"));
+}
+
+void TrafficOfChannels::anAnswerToAQuestionThatThrewIsLate() {
+    Channel channel("bus");
+    FakeLink link(&channel);
+    link.reply = [](const Message&) -> brisk::standin::Content { throw std::runtime_error("boom"); };
+    QVERIFY_EXCEPTION_THROWN(channel.ask(nullptr, {0, Verb::Get, "io", QString(), nullptr, true}, 1000),
+                             std::runtime_error);
+    emit link.answered({link.sent.first().id, contentOf(QVariant("old"))});
+    QCOMPARE(m_entries.last().kind, QString("late"));
 }
 
 void TrafficOfChannels::aPostedAnswerIsTold() {
