@@ -1,9 +1,9 @@
 #include "kite/interfacemanager.h"
 
+#include "interface/controllermanager.h"
 #include "interface/interfacemanager_p.h"
 
 #include "brisk/relay.h"
-#include "helm/managerhelper.h"
 
 namespace kite {
 
@@ -22,25 +22,21 @@ bool isBusUp() {
     return connected && connected->getBool(false);
 }
 
-ControllerManager* controller() {
-    return helm::ManagerHelper::instance()->controllerManager();
-}
-
 } // namespace
 
 InterfaceManager::InterfaceManager(QObject* parent) : QObject(parent), d(new InterfaceManagerPrivate(this)) {
-    connect(controller(), &ControllerManager::rcConnected, this, [this] {
+    connect(controllerManager(), &ControllerManager::rcConnected, this, [this] {
         if (isBusUp())
             emit sigNetworkConnect();
     });
-    connect(controller(), &ControllerManager::rcDisconnected, this,
+    connect(controllerManager(), &ControllerManager::rcDisconnected, this,
             [this](bool status) { emit sigNetworkDisConnect(status); });
 
     const ModuleObject* connected = busConnected();
     if (!connected)
         return;
     connect(connected, &ModuleObject::changed, this, [this](const QVariant& value) {
-        if (value.toBool() && controller()->controllerConnected())
+        if (value.toBool() && controllerManager()->controllerConnected())
             emit sigNetworkConnect();
     });
 }

@@ -2,11 +2,11 @@
 
 #include "kite/interfacemanager.h"
 
+#include "interface/controllermanager.h"
 #include "interface/hotupdate.h"
 #include "interface/records.h"
 
 #include "brisk/modulemanager.h"
-#include "helm/managerhelper.h"
 
 #include <QDateTime>
 
@@ -17,10 +17,6 @@ using brisk::ModuleObject;
 namespace {
 
 const int positionTimeoutMs = 1600;
-
-helm::ControllerManager* controller() {
-    return helm::ManagerHelper::instance()->controllerManager();
-}
 
 // "inner_pos.#", 0, 2 -> "inner_pos.#0", "inner_pos.#1"
 QStringList numbered(const QString& prefix, int first, int count) {
@@ -98,8 +94,9 @@ ModuleObject* askPosition(const QString& tool, const QString& wobj) {
     QJsonObject params;
     params.insert(QStringLiteral("tool"), tool);
     params.insert(QStringLiteral("wobj"), wobj);
-    return controller()->execRequest(QStringLiteral("project"), QStringLiteral("vex_program.get_rob_pos"), params,
-                                     /*wait*/ true, positionTimeoutMs);
+    return controllerManager()->execRequest(QStringLiteral("project"), QStringLiteral("vex_program.get_rob_pos"),
+                                            params,
+                                            /*wait*/ true, positionTimeoutMs);
 }
 
 // The record's own place for its position, with what the template has put there.
@@ -119,7 +116,7 @@ void removePoints(const QPointer<ModuleObject>& list, const QString& name) {
 } // namespace
 
 bool InterfaceManager::addCurrentPoint(const QString& name, bool isJoint, const QString& tool, const QString& wobj) {
-    if (!controller()->controllerConnected())
+    if (!controllerManager()->controllerConnected())
         return false;
     const QPointer<ModuleObject> list = m(QStringLiteral("orca.project.point._list"));
     removePoints(list, name);
