@@ -11,4 +11,9 @@ bool checkHelmVersion(const QString& prefix) {
     return prefix.isEmpty() || version.startsWith(prefix);
 }
 
+bool isHelm23Or30Or31() {
+    return checkHelmVersion(QStringLiteral("2.3")) || checkHelmVersion(QStringLiteral("3.0")) ||
+           checkHelmVersion(QStringLiteral("3.1"));
+}
+
 } // namespace kite

@@ -20,8 +20,7 @@ const int namesAndValuesDiffer = -1;
 const int noPersService = -240;
 
 bool hasPersService() {
-    return checkHelmVersion(QStringLiteral("2.3")) || checkHelmVersion(QStringLiteral("3.0")) ||
-           checkHelmVersion(QStringLiteral("3.1"));
+    return isHelm23Or30Or31();
 }
 
 ModuleObject* readPers(QObject* sender, const QVector<QString>& names) {

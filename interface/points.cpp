@@ -9,7 +9,6 @@
 #include "brisk/modulemanager.h"
 
 #include <array>
-#include <initializer_list>
 
 namespace kite {
 
@@ -22,12 +21,6 @@ using PoseLeaves = std::array<QPointer<ModuleObject>, poseSize>;
 
 ModuleObject* points() {
     return m(QStringLiteral("orca.project.point._list"));
-}
-
-ModuleObject* below(ModuleObject* node, std::initializer_list<const char*> names) {
-    for (const char* name : names)
-        node = node ? node->c(QLatin1String(name)) : nullptr;
-    return node;
 }
 
 // x, y, z, a, b, c; null for what the point does not have, which is all of them with a joint point.

@@ -38,6 +38,12 @@ QString textOf(ModuleObject* node, const QString& key) {
     return textOf(node ? node->c(key) : nullptr);
 }
 
+ModuleObject* below(ModuleObject* node, std::initializer_list<const char*> names) {
+    for (const char* name : names)
+        node = node ? node->c(QLatin1String(name)) : nullptr;
+    return node;
+}
+
 QString nameKey() {
     return QStringLiteral("name");
 }

@@ -6,6 +6,7 @@
 #include <QPointer>
 #include <QString>
 
+#include <initializer_list>
 #include <memory>
 
 namespace kite {
@@ -17,6 +18,8 @@ namespace kite {
 QString textOf(const brisk::ModuleObject* node);
 /// The text of the child `key`; empty where there is none.
 QString textOf(brisk::ModuleObject* node, const QString& key);
+/// The node that is reached from `node` by children of these names; null where one is missing.
+brisk::ModuleObject* below(brisk::ModuleObject* node, std::initializer_list<const char*> names);
 /// "name"
 QString nameKey();
 QString nameOf(brisk::ModuleObject* record);

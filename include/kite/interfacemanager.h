@@ -2,6 +2,7 @@
 
 #include "kite/export.h"
 
+#include <QHash>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QJsonValue>
@@ -309,6 +310,149 @@ public:
     /// \param pose x, y, z in mm, a, b, c in degrees. With fewer than six values, or when there is no such point,
     ///             nothing happens
     void changeCartPoint(const QString& name, const QVector<double>& pose);
+
+    /// @}
+    /// @name The state of the robot
+    ///
+    /// Each reads one value as the pendant has it at this moment. None asks the controller, and none looks whether a
+    /// link is up: with the links down they give what was there last.
+    /// @{
+
+    /// The robot's identifier; empty when there is none.
+    QString getRobotID();
+    /// Whether the drives have power: whether the pendant's word for it is exactly "on", in lower case.
+    bool getRobotEleStatus();
+    /// What the robot does, in the pendant's own word; empty when there is none.
+    QString getRobotPhyStatus();
+    /// The operating level of the user who is logged in, the pendant's own number; 0 when there is none.
+    int getUserOperateLevel();
+    /// The controller's address as it is set on the pendant; empty when it is not set.
+    QString getRobotIP();
+    /// The robot's type as it is set on the pendant; empty when it is not set.
+    QString getRobotType();
+    /// The number of the robot's model in the last answer to the request "system.controller.get_params". It does not
+    /// ask: rcExecRequest() does.
+    /// \return 0 before there was an answer
+    int getRobotModelType();
+    /// The tool that is selected on the pendant; "tool0" when none is.
+    QString getCurTool();
+    /// The work object that is selected on the pendant; "wobj0" when none is.
+    QString getCurWobj();
+
+    /// @}
+    /// @name What there is to refer to
+    ///
+    /// Names for motion instructions, signals and registers, read from the pendant's data tree at each call. Needs no
+    /// link. What is not there is an empty list or hash.
+    /// @{
+
+    /// The names of the tools: those of the system, of the project and the global ones, in this order. A name that is
+    /// there twice comes twice.
+    QStringList getToolList();
+    /// The names of the work objects, as getToolList().
+    QStringList getWobjList();
+    /// The names of the variables whose type is exactly "speed": those of the system, then those of the project.
+    QStringList getSpeedList();
+    /// The names of the variables whose type is exactly "zone", as getSpeedList().
+    QStringList getZoneList();
+
+    /// The present values of all IO signals by their names, as the pendant keeps them.
+    QHash<QString, QVariant> getIOHash();
+    /// The names of the IO signals of a type, in the pendant's order.
+    /// \param signalType 1 digital input, 2 digital output, 3 group input, 4 group output, 5 analogue input,
+    ///                   6 analogue output. Any other gives an empty list and an error line in the log
+    QStringList getIOByType(int signalType);
+    /// The same by "DI", "DO", "GI", "GO", "AI" or "AO", in upper case.
+    QStringList getIOByType(const QString& signalType);
+
+    /// The values of the registers by their names. One without a name or a value is left out; of two with one name the
+    /// later counts.
+    QHash<QString, QStringList> getRegisterHash();
+    /// The registers as JSON: an array of objects with "name" and "value"; Null when there are none.
+    QJsonValue getRegisterValue();
+
+    /// @}
+    /// @name Moves to points
+    ///
+    /// \warning These move a robot. Mind what is said of each form.
+    ///
+    /// The move goes on in the controller when the call returns, and `result` tells nothing of how it goes: subscribe
+    /// to the bus key "move.last_error_with_setting" with a kite::Subscription before you start. With the bus down
+    /// nothing is sent, and `result` is the same: ask getRobotConnected() before.
+    ///
+    /// A start resets first and waits for the answer to that, as long as the bus allows. Then it has the bus watch that
+    /// key for the manager, until moveToStop(): one mark for all plugins, so two starts need one stop. Subscriptions
+    /// have marks of their own, which moveToStop() leaves alone. What is sent stands in the log as an error line,
+    /// though it is none.
+    /// @{
+
+    /// Starts a move **without a target**: a speed is sent and no pose, so the controller has nowhere to go. To move a
+    /// robot call the other form, with `withConf`. Mind that four arguments are this one and five the other.
+    /// \param result    -1 when there is no point of exactly that name: nothing is sent then, and the log says so.
+    ///                  Otherwise it is **left as it was**: set it before
+    /// \param pointName a point of the project that is open
+    /// \param speed     as with the other form
+    /// \param joint     true: a joint move; false: a linear one
+    void moveToStart(int& result, const QString& pointName, int speed, bool joint);
+
+    /// Starts a move to a point. Its pose is sent, all of it divided by 1000: x, **x once more in the place of y**, and
+    /// z in mm become metres; a, b, c in degrees become thousands of degrees. So the robot goes to points with x = y,
+    /// and for all others to another place than the one that was taught. The tool and the work object are not sent. Of
+    /// a point without a pose, such as a joint point, no target is sent.
+    ///
+    /// \param result   as with the other form
+    /// \param speed    in mm/s for a linear move; it is sent divided by 1000 and not looked at: 0 and less go out too
+    /// \param withConf true: the configuration of the point is sent too, eight numbers, 0 for what the point has not
+    void moveToStart(int& result, const QString& pointName, int speed, bool withConf, bool joint);
+
+    /// Stops the move, whoever has started it, and takes back the manager's watch. Does not wait. With the bus down
+    /// nothing is sent, and **the robot goes on**.
+    void moveToStop();
+
+    /// Asks the controller whether the way from one point to the other can be gone. Waits for the answer as long as the
+    /// bus allows. It is the controller that looks for the points.
+    /// \return 1 when the names are equal: it is not asked then. -2 when it answers with an error other than -50003. 0
+    ///         when the way can be gone, **and when no answer came** because the bus is down or slow
+    int checkPointMoveTo(const QString& fromPoint, const QString& toPoint);
+
+    /// @}
+    /// @name Projects
+    ///
+    /// A project is the folder WORKSPACE/ROBOT/NAME, with ROBOT the robot's identifier, or "LOCALHOST" without one.
+    ///
+    /// \warning Names are used in paths as they are: "a/b" is a folder in a folder, ".." is the workspace itself, and
+    /// removeProject() deletes it. Pass names that getProjectList() has, and check what somebody typed. Where no
+    /// workspace is set, the path begins at the root of the disk.
+    ///
+    /// The empty name and "_temp" are refused, with an error line in the log. None looks whether a link is up.
+    /// @{
+
+    /// The names of the projects as the service bus lists them. Waits for the answer as long as the bus allows.
+    /// \return empty when there are none, and when no answer comes
+    QStringList getProjectList();
+
+    /// Makes the folder of a project with a description file, projectinfo.json, and nothing else.
+    /// \param description goes into the file, with the time of creation
+    /// \param setCurrent  has the pendant change to the project. The selected tool becomes "toole", save when
+    ///                    "orca.toolpage,tool" (with a comma) holds the name of a global one, and the selected work
+    ///                    object "wobjo", save when it is a global one: **none is called so**. Select others afterwards
+    /// \return 0, also when the file could not be written; -1: the name is refused; -2: there is such a folder; -3: the
+    ///         folder could not be made. Unless it is 0, the pendant has not changed to it
+    int createProject(const QString& name, const QString& description, bool setCurrent);
+
+    /// Deletes the folder of a project with all that is in it, for good. Waits for the bus, and for the controller up
+    /// to 1600 ms when the project is the one that is loaded at the start, which is reset then.
+    ///
+    /// The selected tool becomes "tool0", save a global one; the selected work object becomes "wobj0", **a global one
+    /// too**. A project that is open stays open: change to another one before. The error line "Remove folder %l
+    /// failed!" in the log is **what success looks like**, save for the project that is loaded at the start.
+    /// \return 0, **also when the folder could not be deleted**, or only in part, or was not there; all else was done
+    ///         then. See whether getProjectList() still has the name. -1: the name is refused
+    int removeProject(const QString& name);
+
+    /// Has the pendant change to a project. It does not look whether there is one of that name.
+    /// \return 0; -1: the name is refused
+    int changeProject(const QString& name);
 
     /// @}
 
