@@ -3,6 +3,7 @@
 #include "brisk/modulemanager.h"
 #include "briskx/buttonpages.h"
 #include "helm/messagelist.h"
+#include "helm/vexmanager.h"
 #include "tarp/factory.h"
 
 #include <QHBoxLayout>
@@ -46,6 +47,7 @@ void resetHost() {
     bfactory()->node->clear(nullptr, /*notify*/ false, /*own*/ true);
     brisk::pluginManager()->plugins.clear();
     brisk::pluginManager()->node->clear(nullptr, /*notify*/ false, /*own*/ true);
+    *helm::VexManager::getVexManager() = helm::VexManager();
 }
 
 } // namespace pendanttest

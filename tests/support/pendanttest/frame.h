@@ -26,7 +26,7 @@ private:
 };
 
 /// Empties what the process's host keeps: messages, navigation, physical keys, the count of model windows, the plugins'
-/// nodes, the project and the names that were registered with the host. No module may be alive.
+/// nodes, the project, the names that were registered with the host and the instructions. No module may be alive.
 void resetHost();
 
 } // namespace pendanttest
