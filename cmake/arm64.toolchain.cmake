@@ -6,4 +6,4 @@ set(CMAKE_LIBRARY_ARCHITECTURE aarch64-linux-gnu)
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_CROSSCOMPILING_EMULATOR qemu-aarch64)
 # Qt's own tools run on this machine: moc and rcc of the native package, which is of the same version.
-set(CMAKE_PREFIX_PATH /usr/lib/aarch64-linux-gnu)
+list(APPEND CMAKE_PREFIX_PATH /usr/lib/aarch64-linux-gnu)
