@@ -1,0 +1,85 @@
+#pragma once
+
+#include "program.h"
+#include "programplace.h"
+#include "project/followednode.h"
+
+#include <QObject>
+#include <QString>
+#include <QTimer>
+
+namespace pendant {
+
+/// The program of the open project, and its file.
+///
+/// It opens the program when the tree names a project or a function, or other ones, when control is back in the event
+/// loop. Changes that are not saved are kept beside the file ("main.txt.unsaved"): a moment after they were made, and
+/// when the program is left or the store goes. When such are found on opening, they are taken up as one step of the
+/// history: undo gives the saved program, save keeps them.
+///
+/// When the changes cannot be kept, the program stays open although the tree names another one; it is left when
+/// they are kept, saved or undone. User-interface thread only.
+class ProgramStore : public QObject {
+    Q_OBJECT
+
+public:
+    /// It opens nothing before control is in the event loop.
+    /// \param keepDelayMs how long a change may wait until it is kept beside the file
+    explicit ProgramStore(QObject* parent = nullptr, int keepDelayMs = 1000);
+    /// Keeps what is not saved. Ask keepUnsaved() before, to be able to tell somebody when it cannot.
+    ~ProgramStore() override;
+
+    /// Lives as long as the store, and is empty while none is open. Do not load() it, and do not change it while
+    /// isOpen() is false: it would be kept nowhere.
+    Program* program() { return &m_program; }
+    bool isOpen() const { return m_isOpen; }
+    /// Why none is open, a sentence: no project, a name that leads nowhere, a file that cannot be read.
+    QString problem() const { return m_problem; }
+    /// Where the open program lies, or the one that could not be opened.
+    const ProgramPlace& place() const { return m_place; }
+    /// The open program had unsaved changes from before, and they have not been saved or undone since.
+    bool hasTakenUpUnsaved() const { return m_hasTakenUp; }
+
+    /// Writes the program to its file.
+    /// \return false, with a sentence in `error`, when it cannot be written; all is as it was
+    bool save(QString* error);
+    /// Writes what is not saved beside the file, at once; nothing when all is saved.
+    /// \return false, with a sentence in `error`, when it cannot be written
+    bool keepUnsaved(QString* error);
+    /// Opens what the tree names, at once. It leaves alone what is open already; what could not be opened is tried
+    /// again.
+    void follow();
+
+signals:
+    /// Another program is open, or none. isOpen(), place() and problem() tell.
+    void opened();
+    /// hasTakenUpUnsaved() is another now.
+    void takenUpChanged(bool takenUp);
+    /// Something could not be kept or read aside, a sentence. Of a row of failures of the same kind the first is told.
+    void failed(const QString& what);
+
+private:
+    void listen(brisk::ModuleObject* node);
+    void open(const ProgramPlace& place);
+    void takeUpUnsaved();
+    void setUnreadableAside(const QString& error);
+    void setTakenUp(bool takenUp);
+    void keepSoon();
+    void keepNow();
+    void forgetUnsaved();
+    void reportOnce(const QString& what);
+
+    Program m_program;
+    ProgramPlace m_place;
+    QString m_problem;
+    FollowedNode m_project;
+    FollowedNode m_function;
+    QTimer m_followTimer;
+    QTimer m_keepTimer;
+    QString m_reported;
+    bool m_isOpen = false;
+    bool m_hasTakenUp = false;
+    bool m_isHeld = false; // the tree names another one, and this one cannot be kept
+};
+
+} // namespace pendant

@@ -1,0 +1,224 @@
+#include "programstorefixture.h"
+
+// Which program is open, and how it gets to its file.
+class TestProgramStore : public StoreTest {
+    Q_OBJECT
+
+private slots:
+    void withoutAProjectNoneIsOpen();
+    void theProgramOfTheProjectIsOpened();
+    void aProgramThatIsNotThereYetIsEmpty();
+    void severalNewNamesOpenOneProgram();
+    void whatIsAnnouncedAgainOpensNothing();
+    void theFunctionNamesTheProgram();
+    void aTreeThatIsMadeAnewIsFollowed();
+    void whenTheProjectIsClosedTheProgramIsToo();
+    void aNameThatLeadsElsewhereOpensNone();
+    void aProgramThatCannotBeReadIsLeftAlone();
+    void whatCouldNotBeReadIsTriedAgain();
+    void savingWritesTheFile();
+    void withoutAProgramNothingIsSaved();
+    void aSaveThatFailsChangesNothing();
+    void aSavedProgramIsOpenedByTheNextStore();
+};
+
+void TestProgramStore::withoutAProjectNoneIsOpen() {
+    Store store;
+    QVERIFY(!store->isOpen());
+    QCOMPARE(store->problem(), QString("No project is open."));
+    store.settle();
+    QVERIFY(!store->isOpen());
+    QCOMPARE(store.heard, QStringList());
+    QCOMPARE(store->program()->count(), 0);
+}
+
+void TestProgramStore::theProgramOfTheProjectIsOpened() {
+    write("demo/programs/main.txt", "a\nb\n");
+    Store store;
+    setProject("demo");
+    QVERIFY(!store->isOpen());
+    store.settle();
+    QVERIFY(store->isOpen());
+    QCOMPARE(store->problem(), QString());
+    QCOMPARE(store->place().project(), QString("demo"));
+    QCOMPARE(store->place().name(), QString("main"));
+    QCOMPARE(store.lines(), (QStringList{"a", "b"}));
+    QVERIFY(!store->program()->isModified());
+    QCOMPARE(store.heard, QStringList{"opened"});
+}
+
+void TestProgramStore::aProgramThatIsNotThereYetIsEmpty() {
+    setProject("demo");
+    Store store;
+    store.settle();
+    QVERIFY(store->isOpen());
+    QCOMPARE(store.lines(), QStringList());
+    QCOMPARE(files(), QStringList());
+}
+
+void TestProgramStore::severalNewNamesOpenOneProgram() {
+    Store store;
+    setProject("demo");
+    setProject("other");
+    m("orca.project.cur_func")->setValue(nullptr, "pick");
+    store.settle();
+    QCOMPARE(store.heard, QStringList{"opened"});
+    QVERIFY(store->place().file().endsWith("/workspace/other/programs/pick.txt"));
+}
+
+void TestProgramStore::whatIsAnnouncedAgainOpensNothing() {
+    write("demo/programs/main.txt", "a\n");
+    setProject("demo");
+    Store store;
+    store.settle();
+    QVERIFY(store->program()->insert(1, "b"));
+    m("orca.project.cur_project")->trigger();
+    setProject("demo");
+    store.settle();
+    QCOMPARE(store.lines(), (QStringList{"a", "b"}));
+    QVERIFY(store->program()->undoStack()->canUndo());
+    QCOMPARE(store.heard, QStringList{"opened"});
+}
+
+void TestProgramStore::theFunctionNamesTheProgram() {
+    write("demo/programs/main.txt", "a\n");
+    write("demo/programs/pick.txt", "b\n");
+    setProject("demo");
+    Store store;
+    store.settle();
+    m("orca.project.cur_func")->setValue(nullptr, "pick");
+    store.settle();
+    QCOMPARE(store.lines(), QStringList{"b"});
+    QVERIFY(!store->program()->undoStack()->canUndo());
+}
+
+void TestProgramStore::aTreeThatIsMadeAnewIsFollowed() {
+    write("demo/programs/main.txt", "a\n");
+    setProject("demo");
+    Store store;
+    store.settle();
+    m("orca")->clear(nullptr, true, true);
+    store.settle();
+    QVERIFY(!store->isOpen());
+    setProject("demo");
+    store.settle();
+    QCOMPARE(store.lines(), QStringList{"a"});
+    QCOMPARE(store.heard, (QStringList{"opened", "opened", "opened"}));
+}
+
+void TestProgramStore::whenTheProjectIsClosedTheProgramIsToo() {
+    write("demo/programs/main.txt", "a\n");
+    setProject("demo");
+    Store store;
+    store.settle();
+    setProject("");
+    store.settle();
+    QVERIFY(!store->isOpen());
+    QCOMPARE(store->problem(), QString("No project is open."));
+    QCOMPARE(store.lines(), QStringList());
+}
+
+void TestProgramStore::aNameThatLeadsElsewhereOpensNone() {
+    setProject("../demo");
+    Store store;
+    store.settle();
+    QVERIFY(!store->isOpen());
+    QCOMPARE(store->problem(), QString("The project's name “../demo” leads out of the workspace."));
+    QCOMPARE(store.heard, QStringList{"opened"});
+}
+
+void TestProgramStore::aProgramThatCannotBeReadIsLeftAlone() {
+    write("demo/programs/main.txt", "\xff");
+    write("demo/programs/main.txt.unsaved", "a\n");
+    write("other/programs/main.txt", "b\n");
+    setProject("demo");
+    {
+        Store store;
+        store.settle();
+        QVERIFY(!store->isOpen());
+        QVERIFY2(store->problem().endsWith("main.txt was not opened: it is no text in UTF-8."),
+                 qPrintable(store->problem()));
+        QCOMPARE(store.lines(), QStringList());
+        QString error;
+        QVERIFY(!store->save(&error));
+        QCOMPARE(error, store->problem());
+        QVERIFY(store->keepUnsaved(&error));
+        setProject("other");
+        store.settle();
+        QCOMPARE(store.lines(), QStringList{"b"});
+    }
+    QCOMPARE(read("demo/programs/main.txt"), QByteArray("\xff"));
+    QCOMPARE(read("demo/programs/main.txt.unsaved"), QByteArray("a\n"));
+}
+
+void TestProgramStore::whatCouldNotBeReadIsTriedAgain() {
+    write("demo/programs/main.txt", "\xff");
+    setProject("demo");
+    Store store;
+    store.settle();
+    store->follow();
+    QCOMPARE(store.heard, QStringList{"opened"});
+    write("demo/programs/main.txt", "a\n");
+    store->follow();
+    QVERIFY(store->isOpen());
+    QCOMPARE(store.lines(), QStringList{"a"});
+    QCOMPARE(store.heard, (QStringList{"opened", "opened"}));
+}
+
+void TestProgramStore::savingWritesTheFile() {
+    setProject("demo");
+    Store store;
+    store.settle();
+    QVERIFY(store->program()->insert(0, "a"));
+    QString error;
+    QVERIFY2(store->save(&error), qPrintable(error));
+    QCOMPARE(read("demo/programs/main.txt"), QByteArray("a\n"));
+    QVERIFY(!store->program()->isModified());
+    QVERIFY(store->program()->undoStack()->canUndo());
+    QCOMPARE(files(), QStringList{"demo/programs/main.txt"});
+}
+
+void TestProgramStore::withoutAProgramNothingIsSaved() {
+    Store store;
+    store.settle();
+    QString error;
+    QVERIFY(!store->save(&error));
+    QCOMPARE(error, QString("No project is open."));
+    QCOMPARE(files(), QStringList());
+}
+
+void TestProgramStore::aSaveThatFailsChangesNothing() {
+    write("demo/programs/main.txt", "a\n");
+    setProject("demo");
+    Store store;
+    store.settle();
+    QVERIFY(store->program()->insert(1, "b"));
+    block("demo/programs/main.txt");
+    QString error;
+    QVERIFY(!store->save(&error));
+    QVERIFY2(error.contains("main.txt: "), qPrintable(error));
+    QVERIFY(store->program()->isModified());
+    QCOMPARE(store.lines(), (QStringList{"a", "b"}));
+    unblock("demo/programs/main.txt");
+    QVERIFY2(store->save(&error), qPrintable(error));
+    QCOMPARE(read("demo/programs/main.txt"), QByteArray("a\nb\n"));
+}
+
+void TestProgramStore::aSavedProgramIsOpenedByTheNextStore() {
+    setProject("demo");
+    {
+        Store store;
+        store.settle();
+        QVERIFY(store->program()->replaceAll({"a", "", "b // c"}, "All"));
+        QString error;
+        QVERIFY2(store->save(&error), qPrintable(error));
+    }
+    Store store;
+    store.settle();
+    QCOMPARE(store.lines(), (QStringList{"a", "", "b // c"}));
+    QVERIFY(!store->program()->isModified());
+    QVERIFY(!store->hasTakenUpUnsaved());
+}
+
+QTEST_GUILESS_MAIN(TestProgramStore)
+#include "tst_program_store.moc"
