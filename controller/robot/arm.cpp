@@ -19,37 +19,15 @@ namespace controller {
 
 namespace {
 
-const int redundantJoint = 2;
+const size_t redundantJoint = 2;
+const size_t linksOfTheWrist = 3;
 // In m and rad: where the search may stop, and what may be left to the target at most.
 const double enough = 1e-10;
 const double precision = 1e-7;
 // A motion less than this from a turn of 1 is none: the joint does nothing for it.
 const double singular = 1e-3;
-const double mm = 0.001;
+const double mm = 0.001; // of a metre
 const int triesAtMost = 60;
-
-Segment turning(Joint::JointType type, double x, double z) {
-    return Segment(Joint(type), Frame(Vector(x, 0, z) * mm));
-}
-
-// Up to the centre of the wrist. The redundant joint is a fixed part of the chain.
-Chain reachingChain(const ArmLengths& lengths, double redundantRad) {
-    Chain chain;
-    chain.addSegment(turning(Joint::RotZ, lengths.shoulderOffset, lengths.shoulderHeight));
-    chain.addSegment(Segment(Joint(Joint::RotY), Frame(Rotation::RotZ(redundantRad))));
-    chain.addSegment(Segment(Joint(Joint::Fixed), Frame(Vector(0, 0, lengths.upperArm) * mm)));
-    chain.addSegment(turning(Joint::RotY, lengths.forearm, lengths.elbowOffset));
-    return chain;
-}
-
-Chain wholeChain(const ArmLengths& lengths, double redundantRad) {
-    Chain chain = reachingChain(lengths, redundantRad);
-    chain.addSegment(turning(Joint::RotX, 0, 0));
-    chain.addSegment(turning(Joint::RotY, 0, 0));
-    // Z of the flange points away from the wrist.
-    chain.addSegment(Segment(Joint(Joint::RotX), Frame(Rotation::RotY(M_PI / 2), Vector(lengths.wrist, 0, 0) * mm)));
-    return chain;
-}
 
 // The first `count` of the joints but the redundant one.
 JntArray arrayOf(const Joints& joints, bool isRedundant, unsigned count) {
@@ -81,30 +59,66 @@ void polish(const Chain& chain, const Frame& target, JntArray* joints) {
     joints->data += change.data;
 }
 
-double redundantRad(const Joints& joints, bool isRedundant) {
-    return isRedundant ? radOf(joints.at(redundantJoint)) : 0;
+Joint::JointType typeOf(int direction) {
+    const Joint::JointType types[] = {Joint::RotX, Joint::RotY, Joint::RotZ};
+    return types[direction];
+}
+
+Frame shifted(double x, double z) {
+    return Frame(Vector(x, 0, z));
+}
+
+Frame inMetres(const Frame& frame) {
+    return {frame.M, frame.p * mm};
 }
 
 } // namespace
 
 Arm::Arm(const ArmLengths& lengths, int joints) : m_lengths(lengths), m_isRedundant(joints == 7) {}
 
+// Z of the flange points away from the wrist.
+std::vector<ArmLink> Arm::links() const {
+    std::vector<ArmLink> links{{2, shifted(m_lengths.shoulderOffset, m_lengths.shoulderHeight)}};
+    if (m_isRedundant)
+        links.push_back({1, Frame::Identity()});
+    links.push_back({m_isRedundant ? 2 : 1, shifted(0, m_lengths.upperArm)});
+    links.push_back({1, shifted(m_lengths.forearm, m_lengths.elbowOffset)});
+    links.push_back({0, Frame::Identity()});
+    links.push_back({1, Frame::Identity()});
+    links.push_back({0, Frame(Rotation::RotY(M_PI / 2), Vector(m_lengths.wrist, 0, 0))});
+    return links;
+}
+
+// The redundant joint is a fixed part of the chain. Lengths are in m, as the search wants them.
+Chain Arm::chain(const Joints& joints, size_t count) const {
+    Chain chain;
+    const std::vector<ArmLink> links = this->links();
+    for (size_t i = 0; i < count; ++i) {
+        const Frame next = inMetres(links.at(i).next);
+        if (m_isRedundant && i == redundantJoint)
+            chain.addSegment(Segment(Joint(Joint::Fixed), Frame(Rotation::RotZ(radOf(joints.at(i)))) * next));
+        else
+            chain.addSegment(Segment(Joint(typeOf(links.at(i).direction)), next));
+    }
+    return chain;
+}
+
 Frame Arm::flange(const Joints& joints) const {
-    const Chain chain = wholeChain(m_lengths, redundantRad(joints, m_isRedundant));
-    const Frame end = endOf(chain, arrayOf(joints, m_isRedundant, chain.getNrOfJoints()));
+    const Chain whole = chain(joints, links().size());
+    const Frame end = endOf(whole, arrayOf(joints, m_isRedundant, whole.getNrOfJoints()));
     return {end.M, end.p / mm};
 }
 
 Vector Arm::wristCentre(const Joints& joints) const {
-    const Chain chain = reachingChain(m_lengths, redundantRad(joints, m_isRedundant));
-    return endOf(chain, arrayOf(joints, m_isRedundant, chain.getNrOfJoints())).p / mm;
+    const Chain reaching = chain(joints, links().size() - linksOfTheWrist);
+    return endOf(reaching, arrayOf(joints, m_isRedundant, reaching.getNrOfJoints())).p / mm;
 }
 
 bool Arm::reach(const Frame& flange, Joints* joints) const {
-    const Chain chain = wholeChain(m_lengths, redundantRad(*joints, m_isRedundant));
+    const Chain chain = this->chain(*joints, links().size());
     const Eigen::Matrix<double, 6, 1> weights = Eigen::Matrix<double, 6, 1>::Ones();
     KDL::ChainIkSolverPos_LMA solver(chain, weights, enough, triesAtMost);
-    const Frame target(flange.M, flange.p * mm);
+    const Frame target = inMetres(flange);
     JntArray found(chain.getNrOfJoints());
     // It also gives up where it cannot get any nearer, which may be near enough.
     solver.CartToJnt(arrayOf(*joints, m_isRedundant, chain.getNrOfJoints()), target, found);

@@ -1,8 +1,6 @@
 #include "controller/robot/cartesianjog.h"
 
-#include "controller/robot/jointjog.h"
-
-#include <cmath>
+#include "controller/robot/axislimits.h"
 
 using KDL::Frame;
 using KDL::Rotation;
@@ -12,7 +10,6 @@ namespace controller {
 
 namespace {
 
-const double dustDeg = 1e-6;
 const char* const axisNames[] = {"X", "Y", "Z", "A", "B", "C"};
 
 bool isTurn(int axis) {
@@ -48,11 +45,12 @@ JogStep CartesianJog::at(qint64 sinceStartMs, const Posture& present) {
     Posture next = present;
     if (!m_kinematics->reach(target(sinceStartMs), m_tool, m_wobj, &next))
         return stopped(present, QStringLiteral("out of reach"), QStringLiteral("the arm does not reach further"));
+    const double inS = double(sinceStartMs - m_reachedMs) / 1000;
     // The leap of a joint near a singularity is what stops the arm, also when it leads past a limit.
     const QString tooFastText = QStringLiteral("%1 would have to turn too fast, near a singularity");
-    if (const Axis* axis = tooFast(present.joints, next.joints, sinceStartMs - m_reachedMs))
+    if (const Axis* axis = tooFast(m_kinematics->model(), present.joints, next.joints, inS))
         return stopped(present, QStringLiteral("singularity"), tooFastText.arg(axis->name));
-    if (const Axis* axis = pastItsLimit(next.joints))
+    if (const Axis* axis = pastItsLimit(m_kinematics->model(), next.joints))
         return stopped(present, limitOf(*axis), QStringLiteral("%1 is at its limit").arg(axis->name));
     m_reachedMs = sinceStartMs;
     return {next, QString(), QString()};
@@ -68,24 +66,6 @@ Frame CartesianJog::target(qint64 sinceStartMs) const {
 JogStep CartesianJog::stopped(const Posture& present, const QString& by, const QString& reason) const {
     const QString notice = QStringLiteral("Jogging along %1 cannot go on: %2.");
     return {present, by, notice.arg(QLatin1String(axisNames[m_axis]), reason)};
-}
-
-const Axis* CartesianJog::pastItsLimit(const Joints& joints) const {
-    for (const Axis& axis : m_kinematics->model().joints) {
-        const double value = tidy(joints.at(size_t(&axis - m_kinematics->model().joints.constData())));
-        if (value < axis.minimum || value > axis.maximum)
-            return &axis;
-    }
-    return nullptr;
-}
-
-const Axis* CartesianJog::tooFast(const Joints& from, const Joints& to, qint64 inMs) const {
-    for (const Axis& axis : m_kinematics->model().joints) {
-        const size_t i = size_t(&axis - m_kinematics->model().joints.constData());
-        if (std::abs(to.at(i) - from.at(i)) > axis.speed * double(inMs) / 1000 + dustDeg)
-            return &axis;
-    }
-    return nullptr;
 }
 
 } // namespace controller

@@ -16,8 +16,6 @@ public:
 private:
     KDL::Frame target(qint64 sinceStartMs) const;
     JogStep stopped(const Posture& present, const QString& by, const QString& reason) const;
-    const Axis* pastItsLimit(const Joints& joints) const;
-    const Axis* tooFast(const Joints& from, const Joints& to, qint64 inMs) const;
 
     const Kinematics* m_kinematics;
     QString m_tool;

@@ -18,5 +18,7 @@ struct Configuration {
 };
 
 Configuration configurationOf(const Kinematics& kinematics, const Posture& posture);
+/// Whether a posture has these branches. On the border between two it has both.
+bool hasBranches(const Kinematics& kinematics, const Posture& posture, int branches);
 
 } // namespace controller

@@ -1,5 +1,7 @@
 #include "controller/robot/jointjog.h"
 
+#include "controller/robot/axislimits.h"
+
 namespace controller {
 
 namespace {
@@ -21,10 +23,6 @@ JogStep JointJog::at(qint64 sinceStartMs, const Posture& present) {
     JogStep step{present, isThere ? limitOf(m_axis) : QString(), QString()};
     setValue(&step.posture, m_model, m_index, isThere ? limit : value);
     return step;
-}
-
-QString limitOf(const Axis& axis) {
-    return QStringLiteral("limit ") + axis.name;
 }
 
 } // namespace controller

@@ -19,7 +19,4 @@ private:
     double m_speed; ///< degrees or mm a second
 };
 
-/// What a motion is stopped by at the limit of `axis`.
-QString limitOf(const Axis& axis);
-
 } // namespace controller

@@ -1,5 +1,7 @@
 #include "controller/robot/kinematics.h"
 
+#include "controller/robot/armpostures.h"
+
 using KDL::Frame;
 using KDL::Rotation;
 using KDL::Vector;
@@ -38,8 +40,25 @@ Frame Kinematics::pose(const Posture& posture, const QString& tool, const QStrin
 }
 
 bool Kinematics::reach(const Frame& pose, const QString& tool, const QString& wobj, Posture* posture) const {
-    const Frame tip = inWorld(m_model.foot, *posture).Inverse() * inWorld(m_model.wobjs.value(wobj), *posture) * pose;
-    return m_arm.reach(tip * frameOf(m_model.tools.value(tool)).Inverse(), &posture->joints);
+    return m_arm.reach(flangeAt(pose, tool, wobj, *posture), &posture->joints);
+}
+
+std::vector<Posture> Kinematics::postures(const Frame& pose, const QString& tool, const QString& wobj,
+                                          const Posture& present) const {
+    const Frame flange = flangeAt(pose, tool, wobj, present);
+    std::vector<Posture> postures;
+    for (const Joints& near : posturesNear(m_arm, flange, present.joints)) {
+        Posture posture{near, present.externals};
+        if (m_arm.reach(flange, &posture.joints))
+            postures.push_back(posture);
+    }
+    return postures;
+}
+
+// Seen from the foot.
+Frame Kinematics::flangeAt(const Frame& pose, const QString& tool, const QString& wobj, const Posture& posture) const {
+    const Frame tip = inWorld(m_model.foot, posture).Inverse() * inWorld(m_model.wobjs.value(wobj), posture) * pose;
+    return tip * frameOf(m_model.tools.value(tool)).Inverse();
 }
 
 Frame Kinematics::inWorld(const Mount& mount, const Posture& posture) const {

@@ -7,6 +7,8 @@
 
 #include <QStringList>
 
+#include <vector>
+
 namespace controller {
 
 /// Where things are when a robot of a model stands in a posture.
@@ -26,8 +28,14 @@ public:
     /// stay where they are.
     /// \return false, and `posture` is as before, when there are none near; limits are not looked at
     bool reach(const KDL::Frame& pose, const QString& tool, const QString& wobj, Posture* posture) const;
+    /// All postures that bring the tool to `pose` in the work object, but for full turns of joints: up to eight, and
+    /// some of those that there are where the pose leaves joints open. The third of seven joints and the external axes
+    /// are as in `present`. Limits are not looked at.
+    std::vector<Posture> postures(const KDL::Frame& pose, const QString& tool, const QString& wobj,
+                                  const Posture& present) const;
 
 private:
+    KDL::Frame flangeAt(const KDL::Frame& pose, const QString& tool, const QString& wobj, const Posture& posture) const;
     KDL::Frame inWorld(const Mount& mount, const Posture& posture) const;
     KDL::Frame moved(int external, const Posture& posture) const;
 

@@ -16,17 +16,22 @@ Robot::Robot(const Clock* clock, QObject* parent) : QObject(parent), m_clock(clo
 Robot::~Robot() = default;
 
 void Robot::setModel(const RobotModel& model) {
-    m_motion.reset();
+    m_jog.reset();
+    m_move.reset();
+    m_prepared.reset();
     m_kinematics = Kinematics(model);
     m_posture = model.start();
     m_tool = model.tool;
     m_wobj = model.wobj;
-    setState(false, QString());
+    setState(Motion::None, QString());
+    clearError();
+    emit modelChanged();
     emit moved();
 }
 
 void Robot::setPosture(const Posture& posture) {
-    stop();
+    advance(m_clock->nowMs());
+    halt(QString(), MoveError());
     m_posture = posture;
     emit moved();
 }
@@ -40,27 +45,54 @@ void Robot::setFrame(const QString& tool, const QString& wobj) {
     emit moved();
 }
 
+void Robot::setDrives(bool on) {
+    if (on == m_hasDrives)
+        return;
+    advance(m_clock->nowMs());
+    m_hasDrives = on;
+    if (!on)
+        halt(drivesWentOff().stoppedBy, drivesWentOff());
+    emit stateChanged();
+    emit drivesChanged(on);
+}
+
+void Robot::setMode(Mode mode) {
+    if (mode == m_mode)
+        return;
+    stop();
+    m_mode = mode;
+    emit modeChanged(mode);
+}
+
 QString Robot::refusalOf(const JogCommand& command) const {
     const int axes = command.space == JogCommand::Joint ? model().axes().size() : cartesianAxes;
     if (command.axis < 0 || command.axis >= axes)
         return QStringLiteral("There is no axis %1 to jog: they are counted from 0 to %2.")
             .arg(command.axis)
             .arg(axes - 1);
-    const bool isInRange = command.percent >= -100 && command.percent <= 100;
-    return isInRange ? QString() : QStringLiteral("The speed to jog with must be from -100 to 100 percent.");
+    if (!(command.percent >= -100 && command.percent <= 100))
+        return QStringLiteral("The speed to jog with must be from -100 to 100 percent.");
+    if (!m_hasDrives)
+        return QStringLiteral("The robot cannot be jogged: its drives are off.");
+    if (m_mode != Mode::Manual)
+        return QStringLiteral("The robot cannot be jogged in automatic mode.");
+    return m_move ? QStringLiteral("The robot cannot be jogged while it moves to a target.") : QString();
 }
 
 void Robot::jog(const JogCommand& command) {
     advance(m_clock->nowMs());
+    if (!refusalOf(command).isEmpty())
+        return;
+    m_prepared.reset();
     m_renewedMs = m_clock->nowMs();
-    if (m_motion && m_command == command)
+    if (m_jog && m_command == command)
         return;
     end(QString());
     if (command.percent < 0 || command.percent > 0) {
-        m_motion = jogMotion(&m_kinematics, command, m_posture, m_tool, m_wobj);
+        m_jog = jogMotion(&m_kinematics, command, m_posture, m_tool, m_wobj);
         m_command = command;
         m_startedMs = m_clock->nowMs();
-        setState(true, QString());
+        setState(Motion::Jog, QString());
     }
 }
 
@@ -76,19 +108,26 @@ void Robot::follow(qint64 nowMs) {
 }
 
 void Robot::advance(qint64 nowMs) {
+    if (m_move)
+        advanceMove(nowMs);
+    else
+        advanceJog(nowMs);
+}
+
+void Robot::advanceJog(qint64 nowMs) {
     const qint64 untilMs = m_renewedMs + renewedWithinMs;
-    if (m_isMoving)
+    if (m_motion == Motion::Jog)
         moveUntil(qMin(nowMs, untilMs));
-    if (m_motion && nowMs >= untilMs)
+    if (m_jog && nowMs >= untilMs)
         end(QStringLiteral("not renewed"));
 }
 
 void Robot::moveUntil(qint64 nowMs) {
-    const JogStep step = m_motion->at(nowMs - m_startedMs, m_posture);
+    const JogStep step = m_jog->at(nowMs - m_startedMs, m_posture);
     const bool hasMoved = step.posture != m_posture;
     m_posture = step.posture;
     if (!step.stoppedBy.isEmpty())
-        setState(false, step.stoppedBy);
+        setState(Motion::None, step.stoppedBy);
     if (hasMoved)
         emit moved();
     if (!step.notice.isEmpty())
@@ -97,14 +136,22 @@ void Robot::moveUntil(qint64 nowMs) {
 
 // What stopped it already stays the reason.
 void Robot::end(const QString& stoppedBy) {
-    m_motion.reset();
-    if (m_isMoving)
-        setState(false, stoppedBy);
+    m_jog.reset();
+    if (m_motion == Motion::Jog)
+        setState(Motion::None, stoppedBy);
 }
 
-void Robot::setState(bool isMoving, const QString& stoppedBy) {
-    const bool isNew = isMoving != m_isMoving || stoppedBy != m_stoppedBy;
-    m_isMoving = isMoving;
+// At once, whatever moves it. The error is that of a move.
+void Robot::halt(const QString& stoppedBy, const MoveError& error) {
+    end(stoppedBy);
+    m_prepared.reset();
+    if (m_move)
+        endMove(stoppedBy, error);
+}
+
+void Robot::setState(Motion motion, const QString& stoppedBy) {
+    const bool isNew = motion != m_motion || stoppedBy != m_stoppedBy;
+    m_motion = motion;
     m_stoppedBy = stoppedBy;
     if (isNew)
         emit stateChanged();

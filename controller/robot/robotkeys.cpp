@@ -2,6 +2,7 @@
 
 #include "controller/bustable.h"
 #include "controller/requesttable.h"
+#include "controller/robot/armdescription.h"
 #include "controller/robot/position.h"
 
 #include <QJsonArray>
@@ -18,6 +19,10 @@ QString positionKey() {
 
 QString stateKey() {
     return QStringLiteral("robot.state");
+}
+
+QString armKey() {
+    return QStringLiteral("robot.arm");
 }
 
 QString frameKey() {
@@ -40,8 +45,34 @@ QJsonObject framesOf(const RobotModel& model) {
             {"wobjs", QJsonArray::fromStringList(model.wobjs.keys())}};
 }
 
+// One word, what matters most first.
+QString stateWord(const Robot& robot) {
+    if (robot.isMoving())
+        return robot.isBraking() ? QStringLiteral("stopping") : QStringLiteral("moving");
+    if (!robot.hasDrives())
+        return QStringLiteral("off");
+    return robot.error() ? QStringLiteral("error") : QStringLiteral("idle");
+}
+
+QString motionWord(Robot::Motion motion) {
+    switch (motion) {
+    case Robot::Motion::None:
+        return QString();
+    case Robot::Motion::Jog:
+        return QStringLiteral("jog");
+    case Robot::Motion::JointMove:
+        return QStringLiteral("joint move");
+    case Robot::Motion::LinearMove:
+        return QStringLiteral("linear move");
+    }
+    return QString();
+}
+
 QJsonObject stateOf(const Robot& robot) {
-    return {{"moving", robot.isMoving()}, {"stopped_by", robot.stoppedBy()}};
+    return {{"state", stateWord(robot)},
+            {"motion", motionWord(robot.motion())},
+            {"moving", robot.isMoving()},
+            {"stopped_by", robot.stoppedBy()}};
 }
 
 QJsonObject frameOf(const Robot& robot) {
@@ -54,6 +85,7 @@ RobotKeys::RobotKeys(Robot* robot, const Clock* clock, BusTable* bus, RequestTab
     : QObject(parent), m_robot(robot), m_bus(bus), m_requests(requests) {
     define(QStringLiteral("robot.axes"), [this] { return QJsonValue(axesOf(m_robot->model())); });
     define(QStringLiteral("robot.frames"), [this] { return QJsonValue(framesOf(m_robot->model())); });
+    define(armKey(), [this] { return QJsonValue(armDescription(m_robot->model())); });
     define(stateKey(), [this] { return QJsonValue(stateOf(*m_robot)); });
     define(positionKey(), [this] { return QJsonValue(position(m_robot->tool(), m_robot->wobj())); });
     m_bus->defineComputed(
@@ -68,6 +100,7 @@ RobotKeys::RobotKeys(Robot* robot, const Clock* clock, BusTable* bus, RequestTab
                           [this](const Content& sent) { return positionIn(sent); });
     connect(robot, &Robot::moved, this, [this] { m_hasMoved = true; });
     connect(robot, &Robot::stateChanged, this, [this] { m_bus->tell(stateKey()); });
+    connect(robot, &Robot::modelChanged, this, [this] { m_bus->tell(armKey()); });
     connect(clock, &Clock::advanced, this, &RobotKeys::deliverPosition);
 }
 

@@ -5,6 +5,7 @@
 
 #include <QMap>
 #include <QString>
+#include <QStringList>
 #include <QVector>
 
 namespace controller {
@@ -28,7 +29,10 @@ struct Axis {
     double speed = 0; ///< the greatest
     double start = 0;
     bool isLinear = false;
+    double acceleration = 0; ///< the greatest of moves; 0: at full speed within 0.4 s
 };
+
+double accelerationOf(const Axis& axis);
 
 /// Where something stands: a pose in the world, or on an external axis.
 struct Mount {
@@ -52,6 +56,14 @@ struct JogSpeeds {
     double percentOfAxis = 20; ///< of the greatest speed of a single axis
 };
 
+/// What the tip of the tool can do at most on a straight line.
+struct LinearLimits {
+    double mmPerS = 2000;
+    double mmPerS2 = 4000;
+    double degPerS = 180;
+    double degPerS2 = 720;
+};
+
 /// A robot on paper.
 struct RobotModel {
     ArmLengths lengths;
@@ -63,6 +75,7 @@ struct RobotModel {
     QString tool; ///< the one that is selected at the start
     QString wobj;
     JogSpeeds jog;
+    LinearLimits linear;
 
     /// The joints, then the external axes.
     QVector<Axis> axes() const;
@@ -76,6 +89,9 @@ void setValue(Posture* posture, const RobotModel& model, int axis, double value)
 /// Tool and work object that every robot has.
 QString flangeTool();
 QString worldWobj();
+/// These two and, for the same, the names that pendants begin with: "tool0" and "wobj0".
+QStringList everyonesTools();
+QStringList everyonesWobjs();
 
 /// A six-axis arm with a reach of about 1.8 m and nothing around it.
 RobotModel standardModel();

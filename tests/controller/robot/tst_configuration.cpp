@@ -71,6 +71,27 @@ private slots:
         QTEST(configurationOf(Kinematics(standardModel()), posture).branches, "branches");
     }
 
+    void onTheBorderBothBranchesHold_data() {
+        QTest::addColumn<Joints>("joints");
+        QTest::addColumn<int>("branches");
+        QTest::addColumn<bool>("holds");
+        QTest::newRow("its own") << Joints{0, -90, -100, 0, -5} << 7 << true;
+        QTest::newRow("not to the front") << Joints{0, -90, -100, 0, -5} << 6 << false;
+        QTest::newRow("not the elbow up") << Joints{0, -90, -100, 0, -5} << 5 << false;
+        QTest::newRow("not the other wrist") << Joints{0, -90, -100, 0, -5} << 3 << false;
+        QTest::newRow("stretched wrist") << Joints{0, 20, 0, 0, 0} << 0 << true;
+        QTest::newRow("stretched wrist, flipped") << Joints{0, 20, 0, 0, 0.001} << 4 << true;
+        QTest::newRow("bent wrist, flipped") << Joints{0, 20, 0, 0, 0.1} << 4 << false;
+    }
+
+    void onTheBorderBothBranchesHold() {
+        QFETCH(Joints, joints);
+        QFETCH(int, branches);
+        Posture posture;
+        posture.joints = joints;
+        QTEST(hasBranches(Kinematics(standardModel()), posture, branches), "holds");
+    }
+
     void theElbowIsTheThirdOfSeven() {
         Posture posture;
         posture.joints = {0, 10, 25, 30, 0, -5, 0};

@@ -119,13 +119,29 @@ private slots:
             QVERIFY(std::abs(found.joints[i] - there.joints[i]) < 1e-6);
     }
 
+    void allPosturesAreFoundWithTheExternalAxesWhereTheyAre() {
+        RobotModel onTrack = model();
+        onTrack.foot = {{0, 0, 250, 30, 0, 0}, 0};
+        const Kinematics kinematics(onTrack);
+        Posture there = toolDown(500, 20, 30);
+        there.joints = {5, 20, 15, 10, 60, -20, 0};
+        const KDL::Frame pose = kinematics.pose(there, "bent", "turned");
+        const std::vector<Posture> postures = kinematics.postures(pose, "bent", "turned", there);
+        QCOMPARE(postures.size(), size_t(8));
+        for (const Posture& posture : postures) {
+            QCOMPARE(posture.externals, there.externals);
+            QVERIFY(KDL::Equal(kinematics.pose(posture, "bent", "turned"), pose, 1e-4));
+        }
+    }
+
     void namesThatAreNotThereAreNamed() {
         const Kinematics kinematics(model());
         QCOMPARE(kinematics.unknown("gripper", "table"), QString());
         QCOMPARE(kinematics.unknown("grip", "table"),
-                 "The controller knows no tool \"grip\". There are \"bent\", \"flange\", \"gripper\".");
+                 "The controller knows no tool \"grip\". There are \"bent\", \"flange\", \"gripper\", "
+                 "\"tool0\".");
         QCOMPARE(kinematics.unknown("gripper", ""), "The controller knows no work object \"\". There are \"table\", "
-                                                    "\"tilted\", \"turned\", \"world\".");
+                                                    "\"tilted\", \"turned\", \"wobj0\", \"world\".");
     }
 };
 

@@ -120,12 +120,12 @@ private slots:
                  qPrintable(axes));
         QCOMPARE(send(Verb::Get, "robot.axes")->cmobjCount(), 7);
         QCOMPARE(text(send(Verb::Get, "robot.frames")),
-                 "{\"tools\":[\"flange\",\"gripper\"],\"wobjs\":[\"table\",\"world\"]}");
+                 "{\"tools\":[\"flange\",\"gripper\",\"tool0\"],\"wobjs\":[\"table\",\"wobj0\",\"world\"]}");
     }
 
     void whatTheRobotTellsCannotBeSet_data() {
         QTest::addColumn<QString>("key");
-        for (const char* key : {"robot.position", "robot.axes", "robot.frames", "robot.state"})
+        for (const char* key : {"robot.position", "robot.axes", "robot.frames", "robot.state", "robot.arm"})
             QTest::newRow(key) << key;
     }
 
@@ -138,13 +138,17 @@ private slots:
 
     void joggingMovesAndTellsSo() {
         send(Verb::Watch, "robot.state");
-        QCOMPARE(text(send(Verb::Get, "robot.state")), "{\"moving\":false,\"stopped_by\":\"\"}");
+        QCOMPARE(text(send(Verb::Get, "robot.state")),
+                 "{\"motion\":\"\",\"moving\":false,\"state\":\"idle\",\"stopped_by\":\"\"}");
         QVERIFY(!send(Verb::Command, "robot.jog", R"({"space": "joint", "axis": 0, "percent": 50})"));
         m_controller->clock()->step(400);
         QCOMPARE(m_controller->robot()->posture().joints[0], 6.0);
         m_controller->clock()->step(400);
-        QCOMPARE(m_delivered, (QStringList{"robot.state {\"moving\":true,\"stopped_by\":\"\"}",
-                                           "robot.state {\"moving\":false,\"stopped_by\":\"not renewed\"}"}));
+        QCOMPARE(
+            m_delivered,
+            (QStringList{
+                "robot.state {\"motion\":\"jog\",\"moving\":true,\"state\":\"moving\",\"stopped_by\":\"\"}",
+                "robot.state {\"motion\":\"\",\"moving\":false,\"state\":\"idle\",\"stopped_by\":\"not renewed\"}"}));
     }
 
     void joggingStopsWhenTold() {
@@ -153,7 +157,8 @@ private slots:
         QVERIFY(!send(Verb::Command, "robot.jog.stop"));
         m_controller->clock()->step(300);
         QCOMPARE(text(send(Verb::Get, "robot.position", nullptr, "cartesian.pose.frame.pos.z")), "1180");
-        QCOMPARE(text(send(Verb::Get, "robot.state")), "{\"moving\":false,\"stopped_by\":\"\"}");
+        QCOMPARE(text(send(Verb::Get, "robot.state")),
+                 "{\"motion\":\"\",\"moving\":false,\"state\":\"idle\",\"stopped_by\":\"\"}");
     }
 
     void whatCannotBeJoggedIsRefused_data() {
@@ -208,7 +213,8 @@ private slots:
             m_controller->clock()->step(200);
         }
         QCOMPARE(remarked.size(), 1);
-        QCOMPARE(text(send(Verb::Get, "robot.state")), "{\"moving\":false,\"stopped_by\":\"limit A5\"}");
+        QCOMPARE(text(send(Verb::Get, "robot.state")),
+                 "{\"motion\":\"\",\"moving\":false,\"state\":\"idle\",\"stopped_by\":\"limit A5\"}");
     }
 
     void theRequestAnswersForTheToolAndWorkObjectAskedFor() {
