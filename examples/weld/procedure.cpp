@@ -1,5 +1,9 @@
 #include "procedure.h"
 
+#include "logmodule.h"
+
+#include <kite/logline.h>
+
 double heatInputKjPerMm(const Procedure& procedure) {
     if (procedure.travelMmPerS <= 0.0)
         return 0.0;
@@ -26,6 +30,8 @@ void ProcedureStore::use(int index) {
     if (index < 0 || index >= m_procedures.size())
         return;
     m_inUse = m_procedures.at(index);
+    kite::InformationLine(logModule) << "Procedure in use: " << m_inUse.name << ", " << m_inUse.currentA << " A, "
+                                     << m_inUse.voltageV << " V";
     emit changed();
 }
 

@@ -1,5 +1,6 @@
 #include "weldplugin.h"
 
+#include "logmodule.h"
 #include "procedure.h"
 #include "procedurepage.h"
 #include "statusitem.h"
@@ -41,6 +42,8 @@ void WeldPlugin::render() {
 
 // Wire must not run on while nobody looks at the page.
 void WeldPlugin::idle() {
+    if (m_wireAndGas->motion() != WireAndGas::Still)
+        kite::ErrorLine(logModule) << "The page was left while the wire was moving: stopped";
     m_wireAndGas->feed(WireAndGas::Still);
     m_wireAndGas->openGas(false);
 }
@@ -91,7 +94,9 @@ void WeldPlugin::changeWire() {
     auto* window = new WireChange(m_page);
     kite::ChangeModelWindowStatus(kitePluginName, true);
     connect(window, &QDialog::finished, this, [] { kite::ChangeModelWindowStatus(kitePluginName, false); });
-    connect(window, &QDialog::accepted, this,
-            [] { kite::ThrowLog(kitePluginName, kite::ThrowInformation, tr("The wire has been changed.")); });
+    connect(window, &QDialog::accepted, this, [] {
+        kite::ThrowLog(kitePluginName, kite::ThrowInformation, tr("The wire has been changed."));
+        kite::InformationLine(logModule) << "Wire changed";
+    });
     window->open();
 }

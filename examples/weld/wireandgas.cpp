@@ -1,5 +1,9 @@
 #include "wireandgas.h"
 
+#include "logmodule.h"
+
+#include <kite/logline.h>
+
 #include <QFormLayout>
 #include <QLabel>
 #include <QTimer>
@@ -9,6 +13,18 @@ namespace {
 
 const double inchingMmPerS = 50.0;
 const int clockMs = 100;
+
+// What is told to the power source stands in the log, in English whatever the pendant speaks.
+const char* logged(WireAndGas::Motion motion) {
+    switch (motion) {
+    case WireAndGas::Forward:
+        return "forward";
+    case WireAndGas::Back:
+        return "back";
+    default:
+        return "still";
+    }
+}
 
 } // namespace
 
@@ -21,6 +37,8 @@ WireAndGas::WireAndGas(QObject* parent) : QObject(parent), m_clock(new QTimer(th
 }
 
 void WireAndGas::feed(Motion motion) {
+    if (motion != m_motion)
+        kite::ServiceLine(logModule) << "Wire " << logged(motion) << " at " << m_wireMm << " mm";
     m_motion = motion;
     if (motion == Still)
         m_clock->stop();
@@ -30,6 +48,8 @@ void WireAndGas::feed(Motion motion) {
 }
 
 void WireAndGas::openGas(bool open) {
+    if (open != m_gasOpen)
+        kite::ServiceLine(logModule) << "Gas " << (open ? "open" : "shut");
     m_gasOpen = open;
     emit changed();
 }

@@ -102,6 +102,7 @@ private slots:
     void leavingThePageStopsTheWire() {
         QVERIFY(m_pendant->holdKey("Wire and gas", "Back", true));
         QVERIFY(sideText().contains("back"));
+        m_pendant->expectError("The page was left while the wire was moving");
         m_pendant->leave();
         QVERIFY(sideText().contains("still"));
     }

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QDateTime>
+
+/// The clock that the log's sources read in these tests. It is the machine's until a test sets it, and stands still
+/// from then on.
+class Clock {
+public:
+    Clock();
+    explicit Clock(const QDateTime& time);
+    /// The clock runs again.
+    ~Clock();
+
+    void set(const QDateTime& time);
+    void run();
+    void advance(qint64 ms);
+
+private:
+    Q_DISABLE_COPY(Clock)
+};
