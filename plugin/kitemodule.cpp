@@ -22,6 +22,12 @@ int countAt(const QString& key) {
     return node ? node->getInt(0) : 0;
 }
 
+// An entry that was never told its page is not found by it.
+void removeOrphan(brisk::ModuleObject* entry) {
+    if (entry && entry->pmobj())
+        entry->pmobj()->removeChild(entry, /*notify*/ true);
+}
+
 } // namespace
 
 Kite::Kite(const QString& pluginName, QObject* parent) : BModule(parent), storedName(pluginName) {
@@ -65,7 +71,12 @@ void Kite::init() {
     const QString title = label.isEmpty() ? storedName : label;
     // Whoever hears of the new entry, or of the new style below, may delete this module.
     const QPointer<QObject> self(this);
-    brisk::ModuleObject* entry = ot::gyre::registerPage(this, title, QLatin1String(pageGroup), QLatin1String(""), -1);
+    const QPointer<brisk::ModuleObject> entry =
+        ot::gyre::registerPage(this, title, QLatin1String(pageGroup), QLatin1String(""), -1);
+    if (!self) {
+        removeOrphan(entry);
+        return;
+    }
     if (entry)
         entry->set(this, QStringLiteral("nav"), QVariant(pageKey()), true);
     if (self && plugin)

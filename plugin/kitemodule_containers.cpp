@@ -6,6 +6,8 @@
 #include "briskx/physicalbuttons.h"
 #include "tarp/containers.h"
 
+#include <QPointer>
+
 namespace kite {
 
 namespace {
@@ -55,11 +57,13 @@ bool Kite::createRightExpandWidgte(QWidget* w, const QString& pageId) {
 }
 
 void Kite::switchRightExpandWidgte(const QString& pageId) {
-    tarp::ExpandSideBar* side = instantiatedRightExpandSideWidget(this);
-    if (!side || !side->switchTo(this, sideBarKey(pageId)) || side->isVisible())
+    // What its pages and listeners do meanwhile may delete it.
+    const QPointer<tarp::ExpandSideBar> side(instantiatedRightExpandSideWidget(this));
+    if (!side || !side->switchTo(this, sideBarKey(pageId)) || !side || side->isVisible())
         return;
     side->setVisible(true);
-    side->update();
+    if (side)
+        side->update();
 }
 
 } // namespace kite

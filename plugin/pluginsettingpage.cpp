@@ -49,6 +49,11 @@ void PluginSettingPage::createCenterWidget(QWidget* w) {
         changeFullWidget(false);
     if (!self)
         return;
+    // Its handlers may have lifted it out again; as a window it would be nobody's from here on.
+    if (fullScreen && centerWidget)
+        addToLayout(centerWidget);
+    if (!self)
+        return;
     fullScreen = false;
     centerWidget = widget;
     if (widget && !addToLayout(widget))

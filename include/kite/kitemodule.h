@@ -49,7 +49,8 @@ public:
     void detach() override;
 
     /// Shows `w` on the plugin's page, which takes it over (PluginSettingPage::createCenterWidget). Does nothing for
-    /// null, before setup() and once the page has been deleted: the widget is then still yours.
+    /// null, before setup(), once the page has been deleted, and for a widget that contains the page: the widget is
+    /// then still yours.
     void createCenterWidgte(QWidget* w);
 
     /// Switches the centre widget to full screen or back (PluginSettingPage::changeFullWidget).

@@ -10,8 +10,8 @@ namespace kite {
 /// \since 0.1
 struct PhysicalButton {
     QString name;                       ///< what people read on the key
-    QString firstIcon;                  ///< path of the first icon
-    QString secondIcon;                 ///< path of the second icon
+    QString firstIcon;                  ///< path of the icon while the button is up
+    QString secondIcon;                 ///< path of the icon while it is held
     std::function<void(bool)> callback; ///< called on the user-interface thread with the button's state
 };
 

@@ -13,8 +13,9 @@
 
 namespace kite {
 
-/// Whether `name` can be a plugin's name: letters, digits, "_" and "-", and at least one of them. A dot would split the
-/// keys under which the pendant keeps the plugin's things, a "#" would make a list of them.
+/// Whether `name` can be a plugin's name: letters, digits, "_" and "-", and at least one of them; what is not ASCII
+/// counts as a letter. A dot would split the keys under which the pendant keeps the plugin's things, a "#" would make a
+/// list of them.
 /// \since 0.1
 constexpr bool isPluginName(const char* name) {
     if (!*name)
@@ -52,7 +53,7 @@ template <typename Class> bool registerPlugin(const QString& name) {
 ///
 /// Use it once in a file, outside any function, after the class has been defined. `name` is a string literal; `Class`
 /// takes its parent (QObject*) as the only constructor argument. A name that another plugin holds is not registered
-/// again; the pendant tells so when a file brings no plugin of its own.
+/// again, and the message list says so.
 ///
 /// \since 0.1
 #define KITE_PLUGIN(Class, name)                                                                                       \

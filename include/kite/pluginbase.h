@@ -41,7 +41,8 @@ public:
     /// the destructor.
     virtual void detach();
 
-    /// Whether the plugin's page gets the pendant's style sheet each time it is shown; true unless set otherwise.
+    /// Whether the plugin's page gets the pendant's style sheet each time it is shown; true unless set otherwise. A
+    /// page that got it once keeps it, and gets each later one: set this before the page is first shown.
     void setDefaultGlobalSheet(bool on);
     bool getDefaultGlobalSheet() const;
 

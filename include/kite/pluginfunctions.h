@@ -68,7 +68,8 @@ KITE_EXPORT int CreateRightExpandWidgte(const QString& pluginName, QWidget* w, c
 KITE_EXPORT int CreateStatusBar(const QString& pluginName, QWidget* w, int index);
 
 /// Shows `w` on the plugin's page, which takes it over (Kite::createCenterWidgte).
-/// \return 0, also for null and when the page is not there; `w` is then still yours. -1 or -2 as above
+/// \return 0, also for null, when the page is not there, and for a widget that contains the page; `w` is then still
+///         yours. -1 or -2 as above
 KITE_EXPORT int CreateCenterWidget(const QString& pluginName, QWidget* w);
 
 /// Puts a line into the pendant's message list under the plugin's name (Kite::ThrowLog).
@@ -76,8 +77,8 @@ KITE_EXPORT int CreateCenterWidget(const QString& pluginName, QWidget* w);
 KITE_EXPORT int ThrowLog(const QString& pluginName, kite::enThrowLogLevel level, const QString& message);
 
 /// Registers a page of physical buttons (Kite::createPhyBtnPage).
-/// \param first  the first key of each row
-/// \param second the second key of each row
+/// \param first  the upper key of each row
+/// \param second the lower key of each row
 /// \param names  the captions of the rows
 /// \return 0; -1 or -2 as above
 KITE_EXPORT int CreatePhyButtonList(const QString& pluginName, const QString& pageName,

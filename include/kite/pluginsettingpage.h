@@ -39,9 +39,10 @@ public:
     void createCenterWidget(QWidget* w);
 
     /// Lifts the centre widget out into a window without parent and frame that fills the primary screen and stays on
-    /// top, or puts it back at the end of the page with its former window flags and style sheet, and shows it. \return
-    /// false when there is no centre widget, or no page left to put it back into; false, and an error line in the
-    ///         log, when it already is that way
+    /// top, or puts it back at the end of the page with its former window flags and style sheet, and shows it.
+    ///
+    /// \return false when there is no centre widget, or no page left to put it back into; false, and an error line in
+    ///         the log, when it already is that way
     bool changeFullWidget(bool full);
 
 private:

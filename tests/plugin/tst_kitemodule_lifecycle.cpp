@@ -445,10 +445,25 @@ private slots:
         make();
         m_module->setup();
         QObject context;
-        connect(m(QStringLiteral("gyre.page")), &brisk::ModuleObject::touched, &context, [this] { m_module.reset(); });
+        connect(m(entriesKey), &brisk::ModuleObject::inserted, &context, [this] { m_module.reset(); });
         m_module->init();
         QVERIFY(!m_module);
         QVERIFY(!m_calls.contains("init"));
+        QCOMPARE(m(entriesKey)->cmobjCount(), 0);
+    }
+
+    void whoHearsOfTheEntrysPageMayDeleteTheModule() {
+        make();
+        m_module->setup();
+        QObject context;
+        connect(m(entriesKey), &brisk::ModuleObject::inserted, &context, [&] {
+            connect(m(entriesKey)->c(0)->c("nav", true), &brisk::ModuleObject::changed, &context,
+                    [this] { m_module.reset(); });
+        });
+        m_module->init();
+        QVERIFY(!m_module);
+        QVERIFY(!m_calls.contains("init"));
+        QCOMPARE(m(entriesKey)->cmobjCount(), 0);
     }
 
     void initBeforeSetupMakesTheEntryAndInitialisesThePlugin() {

@@ -1,5 +1,6 @@
 #include "pendanttest/frame.h"
 #include "pendanttest/logwatch.h"
+#include "pendanttest/workingfolder.h"
 
 #include "kite/kitemodule.h"
 #include "kite/pluginfunctions.h"
@@ -41,6 +42,7 @@ private slots:
     }
 
 private:
+    pendanttest::WorkingFolder m_folder;
     QScopedPointer<pendanttest::LogWatch> m_log;
 };
 

@@ -22,19 +22,23 @@ using kite::PluginSettingPage;
 
 namespace {
 
-// Does what a test wants when it becomes a window.
+// Does what a test wants when it becomes a window and when it is put back.
 class Reacting : public QLabel {
 public:
     std::function<void()> whenLiftedOut;
+    std::function<void()> whenPutBack;
+    QSize sizeWhenShown;
 
 protected:
     bool event(QEvent* event) override {
-        const bool becomesWindow = event->type() == QEvent::ParentChange && !parentWidget();
+        const auto type = event->type();
         const bool accepted = QLabel::event(event);
-        if (becomesWindow && whenLiftedOut) {
-            const auto deed = whenLiftedOut;
+        if (type == QEvent::Show)
+            sizeWhenShown = size();
+        // A copy: the deed may put another in its place.
+        const auto deed = parentWidget() ? whenPutBack : whenLiftedOut;
+        if (type == QEvent::ParentChange && deed)
             deed();
-        }
         return accepted;
     }
 };
@@ -278,6 +282,32 @@ private slots:
         QVERIFY(first.isNull());
         QVERIFY(second.isNull());
         QVERIFY(strayWindows().isEmpty());
+    }
+
+    void aCentreWidgetThatLiftsItselfOutAgainIsNoOrphan() {
+        const QPointer<Reacting> first(new Reacting);
+        m_page->createCenterWidget(first);
+        showPage();
+        QVERIFY(m_page->changeFullWidget(true));
+        bool isBackOutAgain = false;
+        first->whenPutBack = [&] {
+            first->whenPutBack = nullptr;
+            isBackOutAgain = m_page->changeFullWidget(true);
+        };
+        m_page->createCenterWidget(new QLabel("second"));
+        QVERIFY(isBackOutAgain);
+        QVERIFY(first && !first->isWindow());
+        m_owner.reset();
+        QVERIFY(first.isNull());
+        QVERIFY(strayWindows().isEmpty());
+    }
+
+    void fullScreenHasItsSizeWhenItIsShown() {
+        auto* widget = new Reacting;
+        m_page->createCenterWidget(widget);
+        showPage();
+        QVERIFY(m_page->changeFullWidget(true));
+        QCOMPARE(widget->sizeWhenShown, QGuiApplication::primaryScreen()->geometry().size());
     }
 
     void theSameCentreWidgetTwiceIsOne() {

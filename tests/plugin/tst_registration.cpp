@@ -39,7 +39,7 @@ private slots:
         QCOMPARE(recordedCalls(), QStringList());
     }
 
-    void ofANameRegisteredTwiceTheFirstRegistrationWins() {
+    void aNameRegisteredTwiceStandsOnceUnderItsFile() {
         QVERIFY(m_pendant->load(PLUGIN_fixture_twice));
         QCOMPARE(m_pendant->loader().files().last().names, QStringList("twice"));
     }
