@@ -2,9 +2,11 @@
 
 #include "developer/developerdock.h"
 #include "developer/dockswitch.h"
+#include "frame/pagekeys.h"
 #include "linkwait.h"
 #include "plugins/report.h"
 #include "press.h"
+#include "programtour.h"
 #include "tourbuttons.h"
 #include "tourname.h"
 
@@ -47,6 +49,7 @@ int Tour::run() {
     settle();
     step(tr("The pendant has started."), QStringLiteral("start"), QString(), m_stage.window->grab());
     walkPages();
+    walkProgram();
     walkSideBar();
     walkButtonPages();
     walkDock();
@@ -120,6 +123,16 @@ void Tour::pressButton(const QString& subject, const QPointer<QAbstractButton>& 
     if (!pressBack(button, appeared.windows))
         m_transcript.addFailure(
             tr("%1: what \"%2\" opened did not go away when it was pressed again.").arg(subject, name));
+}
+
+void Tour::walkProgram() {
+    ProgramTour tour(m_stage.program);
+    if (tour.types().isEmpty() || !m_stage.center->switchTo(nullptr, pagekeys::program()))
+        return;
+    settle();
+    tour.walk([this](const QString& text, const QString& subject) {
+        step(text, QStringLiteral("program"), subject, m_stage.window->grab());
+    });
 }
 
 void Tour::walkSideBar() {

@@ -19,6 +19,7 @@
 namespace pendant {
 
 class DockSwitch;
+class ProgramPage;
 
 /// The pendant as the tour walks through it. Nothing is owned; all of it outlives the tour.
 struct TourStage {
@@ -28,6 +29,7 @@ struct TourStage {
     /// Turns the column of physical keys to that page; false when it cannot be shown.
     std::function<bool(const QString& page)> showButtonPage;
     DockSwitch* dock;
+    ProgramPage* program;
     const PluginLoader* loader;
     PluginSession* session;
     const CallGuard* guard;
@@ -35,8 +37,9 @@ struct TourStage {
 
 /// Walks through the pendant without anyone at it: every page of the navigation, every side-bar page, every page of
 /// physical buttons, and on the plugins' pages the buttons for the tour (see isTourButton()), each of which is pressed,
-/// looked at and pressed again, and at last the tabs of the developer dock, which is open all the while. Leaves a
-/// picture of each and the transcript tour.md in a folder.
+/// looked at and pressed again, then the instructions of plugins in the program editor (see ProgramTour), and at last
+/// the tabs of the developer dock, which is open all the while. Leaves a picture of each and the transcript tour.md in
+/// a folder.
 ///
 /// Physical keys are looked at, never pressed: they move robots.
 class Tour {
@@ -59,6 +62,7 @@ private:
     void pressButton(const QString& subject, const QPointer<QAbstractButton>& button);
     void walkSideBar();
     void walkButtonPages();
+    void walkProgram();
     void walkDock();
 
     void step(const QString& text, const QString& kind, const QString& subject, const QPixmap& picture);

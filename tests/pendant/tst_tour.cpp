@@ -1,4 +1,5 @@
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QImage>
 #include <QProcess>
@@ -93,6 +94,29 @@ private slots:
         QVERIFY(transcript().contains("Developer dock, tab \"Traffic\"."));
     }
 
+    void aLineOfEachInstructionOfAPluginIsWrittenAndTakenBack() {
+        copy({PLUGIN_gripper});
+        QCOMPARE(tour(), 0);
+        QStringList pictures;
+        for (const char* type : {"closegripper", "opengripper"}) {
+            for (const char* what : {"new", "refused", "inserted", "edited", "undone", "saved"})
+                pictures << QString("program-%1-%2").arg(type, what);
+        }
+        QCOMPARE(withoutNumbers(pictureNames().filter("-program-")), pictures);
+        QVERIFY(transcript().contains("Inserted a line of “CloseGripper”."));
+        QCOMPARE(contentOf(programFile()), QByteArray());
+
+        // What was not saved before a tour is not saved by it.
+        QFile unsaved(programFile() + ".unsaved");
+        QVERIFY(unsaved.open(QIODevice::WriteOnly) && unsaved.write("Wait 6 ms\n") > 0);
+        unsaved.close();
+        QCOMPARE(tour(), 0);
+        QCOMPARE(withoutNumbers(pictureNames().filter("-program-")),
+                 pictures.filter(QRegularExpression("^(?!.*saved)")));
+        QCOMPARE(contentOf(programFile()), QByteArray());
+        QCOMPARE(contentOf(unsaved.fileName()), QByteArray("Wait 6 ms\n"));
+    }
+
     void aCellThatIsNoGoodEndsThePendantWithStatus2() {
         copy({PLUGIN_fixture_touring});
         QFile cell(m_folder->filePath("bad.json"));
@@ -173,6 +197,17 @@ private:
         for (const QString& picture : pictures)
             names.append(picture.mid(3).chopped(4));
         return names;
+    }
+
+    QString programFile() const {
+        QDirIterator files(m_folder->filePath("work/workspace"), {"main.txt"}, QDir::Files,
+                           QDirIterator::Subdirectories);
+        return files.hasNext() ? files.next() : QString();
+    }
+
+    static QByteArray contentOf(const QString& path) {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("not there");
     }
 
     QString transcript() const {
