@@ -2,6 +2,7 @@
 #include "app/options.h"
 #include "app/run.h"
 #include "app/workfolder.h"
+#include "logs/consolecolours.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -24,6 +25,7 @@ int fail(const QString& text) {
 } // namespace
 
 int main(int argc, char** argv) {
+    pendant::keepColoursOnTerminals();
     const bool screen = hasScreen();
     // The tour makes its pictures off the screen where there is none, and help needs none.
     if (!screen)
