@@ -11,6 +11,10 @@ namespace pendant {
 
 namespace {
 
+const int gap = 8;
+const int iconSize = 24;
+const int widestValue = 144;
+
 QString token(StatusItem::State state) {
     switch (state) {
     case StatusItem::State::Good:
@@ -35,7 +39,7 @@ StatusItem::StatusItem(const QString& name, const Theme& theme, QWidget* parent)
     m_caption->setProperty("caption", true);
     m_value->setObjectName(QStringLiteral("statusValue"));
     m_value->setProperty("strong", true);
-    m_value->setMaximumWidth(144);
+    m_value->setMaximumWidth(widestValue);
 
     auto* words = new QVBoxLayout;
     words->setSpacing(0);
@@ -44,8 +48,8 @@ StatusItem::StatusItem(const QString& name, const Theme& theme, QWidget* parent)
     words->addWidget(m_value);
     words->addStretch();
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(8, 0, 8, 0);
-    row->setSpacing(8);
+    row->setContentsMargins(gap, 0, gap, 0);
+    row->setSpacing(gap);
     row->addWidget(m_iconLabel);
     row->addLayout(words);
 }
@@ -57,6 +61,16 @@ void StatusItem::setTheme(const Theme& theme) {
 
 void StatusItem::setShownWhole(bool whole) {
     m_value->setShownWhole(whole);
+}
+
+void StatusItem::setIconShown(bool shown) {
+    m_iconLabel->setVisible(shown);
+}
+
+int StatusItem::wantedWidth(bool withIcon) const {
+    const int value = qMin(m_value->sizeHint().width(), widestValue);
+    const int words = qMax(m_caption->sizeHint().width(), value);
+    return gap + (withIcon ? iconSize + gap : 0) + words + gap;
 }
 
 void StatusItem::setCaption(const QString& caption) {
@@ -77,7 +91,7 @@ QString StatusItem::text() const {
 
 void StatusItem::draw() {
     const QString name = token(m_state);
-    m_iconLabel->setPixmap(linePixmap(m_icon, m_theme.color(name), 24));
+    m_iconLabel->setPixmap(linePixmap(m_icon, m_theme.color(name), iconSize));
     if (m_value->property("state").toString() == name)
         return;
     m_value->setProperty("state", name);

@@ -22,6 +22,10 @@ public:
     void setTheme(const Theme& theme);
     /// Never cut, whatever else wants room.
     void setShownWhole(bool whole);
+    /// Without its icon the words have to say it all.
+    void setIconShown(bool shown);
+    /// How wide it would be, whatever is shown now.
+    int wantedWidth(bool withIcon) const;
     void setCaption(const QString& caption);
     /// Shows `text` with the line icon `icon`.
     void setValue(const QString& text, const QString& icon, State state);

@@ -3,7 +3,10 @@
 #include "brisk/relay.h"
 #include "helm/managerhelper.h"
 #include "livevalue.h"
+#include "project/projectkeys.h"
+#include "state/statekeys.h"
 #include "statusitem.h"
+#include "statusroom.h"
 
 #include <QEvent>
 
@@ -15,24 +18,28 @@ const QString bus = QStringLiteral("bus");
 const QString controller = QStringLiteral("controller");
 const QString power = QStringLiteral("power");
 const QString mode = QStringLiteral("mode");
+const QString state = QStringLiteral("state");
 const QString tool = QStringLiteral("tool");
 const QString workObject = QStringLiteral("workobject");
 
 } // namespace
 
 StatusItems::StatusItems(tarp::StatusBar* bar, const Theme& theme) : QObject(bar), m_bar(bar), m_theme(theme) {
-    for (const QString& name : {bus, controller, power, mode, tool, workObject})
+    for (const QString& name : {bus, controller, power, mode, state, tool, workObject})
         add(name);
     // Whoever stands at the machine has to read these two, however many items plugins bring.
     for (const QString& name : {bus, controller})
         m_items[name]->setShownWhole(true);
     followLinks();
-    follow(power, QStringLiteral("helm.r.power"));
-    follow(mode, QStringLiteral("helm.r.mode"));
-    follow(tool, QStringLiteral("orca.toolpage.tool"));
-    follow(workObject, QStringLiteral("orca.toolpage.wobj"));
+    follow(power, statekeys::power());
+    follow(mode, statekeys::mode());
+    follow(state, statekeys::robotState());
+    follow(tool, projectkeys::tool());
+    follow(workObject, projectkeys::workObject());
     retranslate();
     bar->installEventFilter(this);
+    new StatusRoom(bar, {m_items[power], m_items[mode], m_items[state], m_items[tool], m_items[workObject]},
+                   m_items[state]);
 }
 
 void StatusItems::setTheme(const Theme& theme) {
@@ -55,16 +62,22 @@ StatusItem* StatusItems::add(const QString& name) {
 }
 
 void StatusItems::follow(const QString& name, const QString& key) {
-    const auto show = [this, name](const QString& value) {
+    const auto take = [this, name](const QString& value) {
         m_values[name] = value;
-        if (name == power)
-            showPower();
-        else if (name == mode)
-            showText(name, tr("Unknown"));
-        else
-            showText(name, name == tool ? QStringLiteral("tool0") : QStringLiteral("wobj0"));
+        show(name);
     };
-    new LiveValue(key, show, this);
+    new LiveValue(key, take, this);
+}
+
+void StatusItems::show(const QString& name) {
+    if (name == power)
+        showPower();
+    else if (name == mode)
+        showMode();
+    else if (name == state)
+        showRobotState();
+    else
+        showName(name, name == tool ? QStringLiteral("tool0") : QStringLiteral("wobj0"));
 }
 
 void StatusItems::followLinks() {
@@ -80,14 +93,13 @@ void StatusItems::retranslate() {
     m_items[controller]->setCaption(tr("Controller"));
     m_items[power]->setCaption(tr("Drives"));
     m_items[mode]->setCaption(tr("Mode"));
+    m_items[state]->setCaption(tr("Robot"));
     m_items[tool]->setCaption(tr("Tool"));
     m_items[workObject]->setCaption(tr("Work object"));
     showBus();
     showController();
-    showPower();
-    showText(mode, tr("Unknown"));
-    showText(tool, QStringLiteral("tool0"));
-    showText(workObject, QStringLiteral("wobj0"));
+    for (const QString& name : {power, mode, state, tool, workObject})
+        show(name);
 }
 
 void StatusItems::showBus() {
@@ -116,7 +128,30 @@ void StatusItems::showPower() {
         m_items[power]->setValue(value.isEmpty() ? tr("Unknown") : value, power, StatusItem::State::Neutral);
 }
 
-void StatusItems::showText(const QString& name, const QString& fallback) {
+void StatusItems::showMode() {
+    const QString value = m_values.value(mode);
+    const QHash<QString, QString> words{{QString(), tr("Unknown")},
+                                        {QStringLiteral("manual"), tr("Manual")},
+                                        {QStringLiteral("auto"), tr("Automatic")}};
+    m_items[mode]->setValue(words.value(value, value), mode, StatusItem::State::Neutral);
+}
+
+void StatusItems::showRobotState() {
+    const QString value = m_values.value(state);
+    const QHash<QString, QString> words{{QString(), tr("Unknown")},
+                                        {QStringLiteral("idle"), tr("Standing")},
+                                        {QStringLiteral("off"), tr("Standing")},
+                                        {QStringLiteral("moving"), tr("Moving")},
+                                        {QStringLiteral("stopping"), tr("Stopping")},
+                                        {QStringLiteral("error"), tr("Error")}};
+    const bool isError = value == QLatin1String("error");
+    const bool moves = value == QLatin1String("moving") || value == QLatin1String("stopping");
+    const QString icon = isError ? QStringLiteral("error") : moves ? QStringLiteral("moving") : QStringLiteral("stop");
+    m_items[state]->setValue(words.value(value, value), icon,
+                             isError ? StatusItem::State::Error : StatusItem::State::Neutral);
+}
+
+void StatusItems::showName(const QString& name, const QString& fallback) {
     const QString value = m_values.value(name);
     m_items[name]->setValue(value.isEmpty() ? fallback : value, name, StatusItem::State::Neutral);
 }

@@ -11,7 +11,7 @@ namespace pendant {
 
 class StatusItem;
 
-/// The robot's values in the status bar, live: links, drives, state, tool and work object.
+/// The robot's values in the status bar, live: links, drives, mode, state, tool and work object.
 class StatusItems : public QObject {
     Q_OBJECT
 
@@ -26,13 +26,16 @@ protected:
 private:
     StatusItem* add(const QString& name);
     void follow(const QString& name, const QString& key);
+    void show(const QString& name);
     void followLinks();
     void retranslate();
     void showBus();
     void showController();
     void showLink(const QString& name, bool up);
     void showPower();
-    void showText(const QString& name, const QString& fallback);
+    void showMode();
+    void showRobotState();
+    void showName(const QString& name, const QString& fallback);
 
     tarp::StatusBar* m_bar;
     Theme m_theme;

@@ -20,6 +20,10 @@ private slots:
     void theBusComesUpLive();
     void aValueIsShownAsTheTreeHasIt_data();
     void aValueIsShownAsTheTreeHasIt();
+    void anErrorOfTheRobotHasAColourAndAWord();
+    void everyItemIsWholeAtTheSizesOfPendants_data();
+    void everyItemIsWholeAtTheSizesOfPendants();
+    void itemsOfPluginsTakeTheIconsFirstAndThenTheState();
     void aValueThatIsRemovedAndMadeAgainIsFollowedStill();
     void aPluginsItemStandsBeforeTheStretch();
     void aPluginsItemLooksAtHome();
@@ -71,11 +75,46 @@ void TestStatus::aValueIsShownAsTheTreeHasIt_data() {
                                  << "ON"
                                  << "Unknown"
                                  << "ON";
-    QTest::newRow("mode") << "mode"
-                          << "helm.r.mode"
-                          << "manual"
-                          << "Unknown"
-                          << "manual";
+    QTest::newRow("manual mode") << "mode"
+                                 << "helm.r.mode"
+                                 << "manual"
+                                 << "Unknown"
+                                 << "Manual";
+    QTest::newRow("automatic mode") << "mode"
+                                    << "helm.r.mode"
+                                    << "auto"
+                                    << "Unknown"
+                                    << "Automatic";
+    QTest::newRow("another mode") << "mode"
+                                  << "helm.r.mode"
+                                  << "T2"
+                                  << "Unknown"
+                                  << "T2";
+    QTest::newRow("robot stands") << "state"
+                                  << "helm.r.state"
+                                  << "idle"
+                                  << "Unknown"
+                                  << "Standing";
+    QTest::newRow("robot moves") << "state"
+                                 << "helm.r.state"
+                                 << "moving"
+                                 << "Unknown"
+                                 << "Moving";
+    QTest::newRow("robot brakes") << "state"
+                                  << "helm.r.state"
+                                  << "stopping"
+                                  << "Unknown"
+                                  << "Stopping";
+    QTest::newRow("robot without drives") << "state"
+                                          << "helm.r.state"
+                                          << "off"
+                                          << "Unknown"
+                                          << "Standing";
+    QTest::newRow("another state") << "state"
+                                   << "helm.r.state"
+                                   << "warming up"
+                                   << "Unknown"
+                                   << "warming up";
     QTest::newRow("tool") << "tool"
                           << "orca.toolpage.tool"
                           << "g_tool_a"
@@ -98,6 +137,67 @@ void TestStatus::aValueIsShownAsTheTreeHasIt() {
     QTEST(item(frame, name)->text(), "after");
     m()->root()->set(nullptr, key, QVariant());
     QTEST(item(frame, name)->text(), "before");
+}
+
+void TestStatus::anErrorOfTheRobotHasAColourAndAWord() {
+    Frame frame;
+    m()->root()->set(nullptr, "helm.r.state", "error");
+    QCOMPARE(item(frame, "state")->text(), QString("Error"));
+    QCOMPARE(item(frame, "state")->state(), StatusItem::State::Error);
+    m()->root()->set(nullptr, "helm.r.state", "idle");
+    QCOMPARE(item(frame, "state")->state(), StatusItem::State::Neutral);
+}
+
+void TestStatus::everyItemIsWholeAtTheSizesOfPendants_data() {
+    QTest::addColumn<int>("width");
+    QTest::addColumn<QString>("language");
+    for (const int width : {1024, 1280}) {
+        for (const char* language : {"en", "de", "zh_CN"})
+            QTest::addRow("%d %s", width, language) << width << language;
+    }
+}
+
+void TestStatus::everyItemIsWholeAtTheSizesOfPendants() {
+    QFETCH(int, width);
+    QFETCH(QString, language);
+    auto* application = static_cast<pendant::Application*>(qApp);
+    QVERIFY(application->setLanguage(language));
+    Frame frame;
+    frame.window->resize(width, 800);
+    m()->root()->set(nullptr, "helm.r.power", "on");
+    m()->root()->set(nullptr, "helm.r.mode", "auto");
+    m()->root()->set(nullptr, "helm.r.state", "stopping");
+    relay()->mobj()->c("connected")->setValue(nullptr, true);
+    Frame::settle();
+    QCOMPARE(frame.window->width(), width);
+    if (width == 1280)
+        QVERIFY(item(frame, "state")->isVisible());
+    for (const char* name : {"bus", "controller", "power", "mode", "state", "tool", "workobject"}) {
+        const QLabel* value = item(frame, name)->findChild<QLabel*>("statusValue");
+        const int wanted = value->isVisible() ? value->fontMetrics().horizontalAdvance(value->text()) : 0;
+        QTRY_VERIFY2(value->width() >= wanted,
+                     qPrintable(QString("%1 %2 %3").arg(name).arg(value->width()).arg(wanted)));
+    }
+    QVERIFY(application->setLanguage("en"));
+}
+
+void TestStatus::itemsOfPluginsTakeTheIconsFirstAndThenTheState() {
+    Frame frame;
+    Frame::settle();
+    const QWidget* icon = item(frame, "mode")->findChild<QLabel*>("statusIcon");
+    const QWidget* linkIcon = item(frame, "bus")->findChild<QLabel*>("statusIcon");
+    QVERIFY(icon->isVisible());
+    auto* label = new QLabel("Arc");
+    const int free = frame.find("status:clock")->x() - item(frame, "workobject")->geometry().right();
+    label->setFixedWidth(free + 20);
+    QVERIFY(frame.window->statusBar()->addBeforeItem(nullptr, "kite.weld.1", "orca.body.statuspage.wgtStrech2", label));
+    QTRY_VERIFY(!icon->isVisible());
+    QVERIFY(item(frame, "state")->isVisible());
+    label->setFixedWidth(free + 200);
+    QTRY_VERIFY(!item(frame, "state")->isVisible());
+    QVERIFY(linkIcon->isVisible());
+    delete label;
+    QTRY_VERIFY(icon->isVisible() && item(frame, "state")->isVisible());
 }
 
 void TestStatus::aValueThatIsRemovedAndMadeAgainIsFollowedStill() {

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+namespace brisk {
+class ModuleObject;
+}
+
+namespace pendant {
+
+/// Keeps what the controller tells of itself in the data tree: signals, registers, the names that a motion can refer
+/// to, who the robot is, how it is and where.
+///
+/// All of it is read when the bus comes up; after that what changes is written, and nothing else. With the bus down the
+/// last values stay. The tree is not listened to: what somebody writes there stays in the tree.
+///
+/// When the controller link comes up it asks for the controller's parameters, as a host does.
+class StateMirror : public QObject {
+    Q_OBJECT
+
+public:
+    explicit StateMirror(QObject* parent = nullptr);
+
+private:
+    void follow(const QString& key);
+    void followBus();
+    void read();
+    void take(const QString& key, const brisk::ModuleObject* value);
+    void askForParameters();
+
+    bool m_wasUp = false;
+};
+
+} // namespace pendant
