@@ -11,7 +11,8 @@
 
 #include <QDateTime>
 #include <QDir>
-#include <QPointer>
+
+#include <functional>
 
 namespace kite {
 
@@ -31,7 +32,7 @@ QString infoName() {
 
 // Intended: the tool is read under a key with a comma, where the host keeps none. So the selected tool, global or not,
 // is given up, save where somebody has put a global one under that key.
-QString toolToKeep() {
+QString textUnderCommaKey() {
     return textAt(QStringLiteral("orca.toolpage,tool"));
 }
 
@@ -43,23 +44,22 @@ QString noWobj() {
     return QStringLiteral("wobjo");
 }
 
-void writeChild(const QPointer<ModuleObject>& node, const QString& key, const QString& text) {
+void writeChild(ModuleObject* node, const QString& key, const QString& text) {
     ModuleObject* child = node ? node->child(key) : nullptr;
     if (child)
         child->setValue(nullptr, text);
 }
 
-void describe(ModuleObject* node, const QString& description, const QDir& folder) {
-    // Whoever hears of the one may delete the other.
-    const QPointer<ModuleObject> info(node);
+// Whoever hears of what is written may delete the node, so `info` looks it up each time.
+void describe(const std::function<ModuleObject*()>& info, const QString& description, const QDir& folder) {
     const QString now = QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd hh:mm:ss"));
-    writeChild(info, QStringLiteral("description"), description);
-    writeChild(info, QStringLiteral("create_time"), now);
-    m()->writeToJson(folder.path() + QStringLiteral("/projectinfo.json"), jsonOf(info), /*indented*/ true);
+    writeChild(info(), QStringLiteral("description"), description);
+    writeChild(info(), QStringLiteral("create_time"), now);
+    m()->writeToJson(folder.path() + QStringLiteral("/projectinfo.json"), jsonOf(info()), /*indented*/ true);
 }
 
 void makeCurrent(QObject* sender, const QString& reference) {
-    if (!toolToKeep().startsWith(globalToolPrefix()))
+    if (!textUnderCommaKey().startsWith(globalToolPrefix()))
         writeAt(sender, currentToolKey(), noTool());
     if (!textAt(currentWobjKey()).startsWith(QLatin1String("g_wobj_")))
         writeAt(sender, currentWobjKey(), noWobj());
@@ -69,7 +69,7 @@ void makeCurrent(QObject* sender, const QString& reference) {
 } // namespace
 
 int InterfaceManager::createProject(const QString& name, const QString& description, bool setCurrent) {
-    if (!Project::takesName(name))
+    if (!Project::checkName(name))
         return badName;
     const Project project(name);
     const QDir folder(project.folder);
@@ -83,10 +83,10 @@ int InterfaceManager::createProject(const QString& name, const QString& descript
     }
     if (!setCurrent) {
         ModuleObject info(infoName());
-        describe(&info, description, folder);
+        describe([&info] { return &info; }, description, folder);
         return done;
     }
-    describe(m(mName(QStringLiteral("orca.project"), infoName())), description, folder);
+    describe([] { return m(mName(QStringLiteral("orca.project"), infoName())); }, description, folder);
     makeCurrent(this, project.reference);
     return done;
 }

@@ -110,8 +110,11 @@ int InterfaceManager::checkPointMoveTo(const QString& fromPoint, const QString& 
     node.append(this, fromPoint);
     node.append(this, toPoint);
     ModuleObject* reply = relay()->execCommand(this, QStringLiteral("move.path.check"), &node);
-    ModuleObject* error = reply ? reply->c(QStringLiteral("error")) : nullptr;
-    return !error || error->getInt(0) == feasibleError ? feasible : notFeasible;
+    const QString error = QStringLiteral("error");
+    if (!reply || !reply->hasCmobj(error))
+        return feasible;
+    const ModuleObject* code = reply->c(error);
+    return code && code->getInt(0) == feasibleError ? feasible : notFeasible;
 }
 
 } // namespace kite

@@ -8,18 +8,18 @@ namespace kite {
 
 namespace {
 
-QString robotFolder() {
+QString robotName() {
     const QString id = textAt(QStringLiteral("helm.r.id"));
     return id.isEmpty() ? QStringLiteral("LOCALHOST") : id;
 }
 
 } // namespace
 
-Project::Project(const QString& name)
-    : reference(robotFolder() + QLatin1Char('/') + name),
+Project::Project(const QString& projectName)
+    : name(projectName), reference(robotName() + QLatin1Char('/') + name),
       folder(setting(QStringLiteral("workspace")) + QLatin1Char('/') + reference) {}
 
-bool Project::takesName(const QString& name) {
+bool Project::checkName(const QString& name) {
     if (!name.isEmpty() && name != QLatin1String("_temp"))
         return true;
     hostline::error(QString()) << "Project name unuesful!";

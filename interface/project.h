@@ -8,15 +8,17 @@ namespace kite {
 struct Project {
     /// The project of that name of the present robot. Nothing of the name is looked at or cleaned: "a/b" is a folder
     /// in a folder, and ".." the workspace itself.
-    explicit Project(const QString& name);
+    explicit Project(const QString& projectName);
 
+    /// "demo"; a copy, for the caller's text may be changed while the bus is waited for.
+    QString name;
     /// "LOCALHOST/demo": what the host calls it.
     QString reference;
     /// "/home/robot/workspace/LOCALHOST/demo"
     QString folder;
 
-    /// Whether a project may have that name; one that may not is a line in the log.
-    static bool takesName(const QString& name);
+    /// Writes an error line and says false for a name that no project may have.
+    static bool checkName(const QString& name);
 };
 
 /// "orca.project.cur_project": the reference of the project that is open.

@@ -21,7 +21,7 @@ QStringList InterfaceManager::getProjectList() {
 }
 
 int InterfaceManager::changeProject(const QString& name) {
-    if (!Project::takesName(name))
+    if (!Project::checkName(name))
         return -1;
     writeAt(this, currentProjectKey(), Project(name).reference);
     return 0;

@@ -77,13 +77,13 @@ void refreshProjects() {
 } // namespace
 
 int InterfaceManager::removeProject(const QString& name) {
-    if (!Project::takesName(name))
+    if (!Project::checkName(name))
         return -1;
     const Project project(name);
-    removeTask(name);
+    removeTask(project.name);
     // Intended: a removal that fails is not told, and the rest is done all the same.
     if (QDir(project.folder).removeRecursively())
-        autoloadedProject() == name ? forgetAutoload() : logRemoval(project.folder);
+        autoloadedProject() == project.name ? forgetAutoload() : logRemoval(project.folder);
     leaveProject(this, project.reference);
     refreshProjects();
     return 0;

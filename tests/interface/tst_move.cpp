@@ -125,6 +125,29 @@ private slots:
         QCOMPARE(json(move("P1", 1, false)->c("point")), QString("null"));
     }
 
+    void aPoseOfZerosIsSent() {
+        ModuleObject* point = add(points(), MovePoints::cartesian("P1", 0, 0, 0));
+        for (const char* angle : {"a", "b", "c"})
+            point->r(frameOf + ".ori.euler")->child(angle)->setValue(nullptr, 0);
+        QCOMPARE(json(move("P1", 1, false)->c("point")), QString(R"({"rot":[0,0,0],"trans":[0,0,0]})"));
+    }
+
+    // Such a point looks like any other: the way to the origin of the work object.
+    void aPointThatWasTaughtWithoutAnAnswerIsSentAsZeros() {
+        controller().answers = false;
+        QVERIFY(kiteInterface()->addCurrentPoint("P1", false, "tool0", "wobj0"));
+        QCOMPARE(json(move("P1", 1, false)->c("point")), QString(R"({"rot":[0,0,0],"trans":[0,0,0]})"));
+        QCOMPARE(json(move("P1", 1, true)->r("point.conf")), QString("[0,0,0,0,0,0,0,0]"));
+    }
+
+    void aJointPointWhosePatternHasAPoseIsSentAsThatPose() {
+        m("orca.project.point.default")->importFromJson(nullptr, MovePoints::cartesian("", 0, 0, 7), false, true, true);
+        controller().answerWith(contentOf(QVariant(QJsonObject{{"joint", QJsonObject()}})));
+        QVERIFY(kiteInterface()->addCurrentPoint("J", true, "tool0", "wobj0"));
+        QCOMPARE(kiteInterface()->getPointObjDataByName("J")["property"], QJsonValue("joint"));
+        QCOMPARE(json(move("J", 1, false)->c("point")), QString(R"({"rot":[0.01,0.0205,-0.09],"trans":[0,0,0.007]})"));
+    }
+
     void aJointPointHasNoTarget() {
         add(points(), MovePoints::joint("J"));
         QCOMPARE(json(move("J", 1, false)), QString(R"({"traj":{"speed":0.001}})"));

@@ -241,6 +241,25 @@ private slots:
         connect(m("orca.toolpage.tool"), &ModuleObject::changed, &listener, [] { delete m("orca.toolpage.wobj"); });
         QCOMPARE(kiteInterface()->createProject("demo", "d", true), 0);
         QCOMPARE(text("orca.project.cur_project"), QString("LOCALHOST/demo"));
+        // The description went with its node; what was written afterwards is there.
+        const QByteArray json = workspace().readFile("demo/projectinfo.json");
+        QVERIFY2(QJsonDocument::fromJson(json).isObject(), json.constData());
+        QCOMPARE(objectOf(json).keys(), QStringList{"create_time"});
+        QCOMPARE(objectOf(json), m("orca.project.projetc_info")->exportToJson(true).toObject());
+    }
+
+    void theCallersTextsMayGoWhenTheNodesAreWritten() {
+        QString name = "demo";
+        QString description = "d";
+        const QObject listener;
+        connect(m("orca.project.projetc_info.description"), &ModuleObject::changed, &listener, [&] {
+            name.clear();
+            description.clear();
+        });
+        QCOMPARE(kiteInterface()->createProject(name, description, true), 0);
+        QVERIFY(name.isEmpty());
+        QCOMPARE(text("orca.project.cur_project"), QString("LOCALHOST/demo"));
+        QCOMPARE(objectOf(workspace().readFile("demo/projectinfo.json"))["description"], QJsonValue("d"));
     }
 
     void changingWritesTheReferenceAndNothingElse() {
@@ -296,7 +315,7 @@ private slots:
     void namesAreUsedAsTheyAre() {
         QFETCH(QString, name);
         QFETCH(QString, made);
-        QVERIFY(workspace().isInside(workspace().at(name)));
+        QVERIFY(workspace().guard().isInside(workspace().at(name)));
         // A folder in the path has to be there before ".." leads out of it.
         QVERIFY(QDir().mkpath(workspace().at("")));
         QCOMPARE(kiteInterface()->createProject(name, "d", true), 0);
@@ -339,11 +358,22 @@ private slots:
         QVERIFY(workspace().content().filter("projectinfo").isEmpty());
     }
 
-    // The root of every disk has /proc/self, so nothing is made here.
+    void foldersThatLeadToOneThatCannotBeMadeStay() {
+        log().expect("Path create error! Path : ");
+        QCOMPARE(kiteInterface()->createProject("a/" + QString(256, 'n'), "d", true), -3);
+        QCOMPARE(workspace().content(), QStringList({"LOCALHOST/", "LOCALHOST/a/"}));
+        log().expect("Projrct already exists! Path : ");
+        QCOMPARE(kiteInterface()->createProject("a", "d", true), -2);
+    }
+
+    // The root of the disk has /proc/self, so nothing is made here. That the identifier is heeded is made sure of
+    // before, or else a folder would be made at the root.
     void withoutAWorkspaceThePathBeginsAtTheRoot() {
-        HostSettings::set("workspace", "");
         write("helm.r.id", "proc");
         QVERIFY(QDir("/proc/self").exists());
+        kiteInterface()->changeProject("self");
+        QCOMPARE(text("orca.project.cur_project"), QString("proc/self"));
+        HostSettings::set("workspace", "");
         log().expect("Projrct already exists! Path : ");
         QCOMPARE(kiteInterface()->createProject("self", "d", false), -2);
         QCOMPARE(log().count("Path : /proc/self\x1b"), 1);

@@ -8,6 +8,11 @@ class TestProjectsReadOnly : public WorkspaceTest {
     Q_OBJECT
 
 private slots:
+    void init() {
+        beginWorkspace();
+        theUserMustGetIn();
+    }
+
     // What all cases stand on.
     void whatIsReadOnlyBinds() {
         lock(workspace().path());
@@ -15,6 +20,7 @@ private slots:
         QFile file(workspace().path() + "/file");
         QVERIFY(!file.open(QIODevice::WriteOnly));
         QVERIFY(!QDir().mkdir(workspace().path() + "/folder"));
+        QVERIFY(QDir(workspace().path()).exists());
     }
 
     void inAReadOnlyWorkspaceNothingIsMade() {
@@ -29,7 +35,7 @@ private slots:
     }
 
     void inAReadOnlyWorkspaceTheRobotsFolderMayBeWritten() {
-        makeFolder("");
+        workspace().makeFolder("");
         lock(workspace().path());
         QCOMPARE(create("demo", false), 0);
         QCOMPARE(workspace().content(),
@@ -38,13 +44,13 @@ private slots:
 
     // The description is what is missing then; the project counts as made, and is changed to.
     void aDescriptionThatCannotBeWrittenIsNotMissed() {
-        makeFolder("");
+        workspace().makeFolder("");
         {
             const mode_t before = umask(0777);
             const auto restored = qScopeGuard([before] { umask(before); });
             QCOMPARE(create("demo", true), 0);
         }
-        Workspace::openToAll(workspace().at("demo"));
+        workspace().openToAll(workspace().at("demo"));
         QCOMPARE(workspace().content(), QStringList({"LOCALHOST/", "LOCALHOST/demo/"}));
         QCOMPARE(text("orca.project.cur_project"), QString("LOCALHOST/demo"));
         QCOMPARE(log().lines(), QStringList());
@@ -52,8 +58,8 @@ private slots:
 
     // It returns 0 and says nothing, and the rest is done.
     void aProjectWithReadOnlyContentStaysInPart() {
-        makeFolder("demo/open");
-        makeFolder("demo/locked");
+        workspace().makeFolder("demo/open");
+        workspace().makeFolder("demo/locked");
         for (const char* file : {"demo/a.txt", "demo/open/b.txt", "demo/locked/c.txt"})
             workspace().makeFile(file);
         lock(workspace().at("demo/locked"));
@@ -72,7 +78,7 @@ private slots:
     }
 
     void aReadOnlyProjectStaysWhole() {
-        makeFolder("demo");
+        workspace().makeFolder("demo");
         workspace().makeFile("demo/a.txt");
         lock(workspace().at("demo"));
         QCOMPARE(removeAsUser("demo"), 0);
@@ -82,7 +88,7 @@ private slots:
 
     // What is in the project goes, and the project's own folder stays.
     void inAReadOnlyWorkspaceAProjectIsEmptied() {
-        makeFolder("demo");
+        workspace().makeFolder("demo");
         workspace().makeFile("demo/a.txt");
         lock(workspace().at(""));
         QCOMPARE(removeAsUser("demo"), 0);
@@ -91,9 +97,9 @@ private slots:
     }
 
     void aReadOnlyFileGoesWithItsFolder() {
-        makeFolder("demo");
+        workspace().makeFolder("demo");
         workspace().makeFile("demo/a.txt");
-        Workspace::allow(workspace().at("demo/a.txt"), 0444);
+        workspace().allow(workspace().at("demo/a.txt"), 0444);
         log().expect("QString::arg: Argument missing: Remove folder %l failed!, ");
         log().expect("]Remove folder %l failed!\x1b");
         QCOMPARE(removeAsUser("demo"), 0);
@@ -102,22 +108,24 @@ private slots:
 
     void cleanup() {
         for (const QString& path : m_locked)
-            Workspace::openToAll(path);
+            workspace().openToAll(path);
         m_locked.clear();
         endWorkspace();
     }
 
 private:
-    /// Below the robot's folder; everybody may write in it.
-    void makeFolder(const QString& below) {
-        QVERIFY(QDir().mkpath(workspace().at(below)));
-        for (QString path = QDir::cleanPath(workspace().at(below)); path != workspace().path();
-             path = QFileInfo(path).path())
-            Workspace::openToAll(path);
+    // Where the user cannot get into the workspace at all, nothing could be made or removed there either, and the cases
+    // would pass for another reason than what is read-only.
+    void theUserMustGetIn() {
+        const QString probe = workspace().path() + "/probe";
+        const OrdinaryUser user;
+        if (!QDir().mkdir(probe) || !QDir().rmdir(probe))
+            qFatal("%s is closed to the user without rights. Set TMPDIR to a folder that everybody can get into.",
+                   qPrintable(QDir::tempPath()));
     }
     /// Nobody may write in that folder until the case is over.
     void lock(const QString& path) {
-        Workspace::allow(path, 0555);
+        workspace().allow(path, 0555);
         m_locked.prepend(path);
     }
     static int create(const QString& name, bool setCurrent) {

@@ -18,12 +18,38 @@ private slots:
         controller().answerWith(contentOf(QVariant()));
     }
 
+    void theFixtureKeepsRemovalsInTheTemporaryFolder_data() {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("isSafe");
+        for (const char* name : {"demo", "nowhere/nothing", "real", "inner", "inner/a", ".", "..", "../../.."})
+            QTest::newRow(name) << name << true;
+        for (const char* name : {"../../../..", "../../../../../a", "outer", "outer/a", "outer/nowhere", "top",
+                                 "nowhere/../../../../../.."})
+            QTest::newRow(name) << name << false;
+    }
     void theFixtureKeepsRemovalsInTheTemporaryFolder() {
-        QVERIFY(workspace().isInside(workspace().at("demo")));
-        QVERIFY(workspace().isInside(workspace().at("../..")));
-        QVERIFY(!workspace().isInside(workspace().at("../../../..")));
-        QVERIFY(!workspace().isInside(workspace().at("../../../../../a")));
-        QVERIFY(!workspace().isInside("/LOCALHOST/demo"));
+        QFETCH(QString, name);
+        QFETCH(bool, isSafe);
+        workspace().makeFile("real/a.txt");
+        QVERIFY(QFile::link(workspace().at("real"), workspace().at("inner")));
+        QVERIFY(QFile::link(QDir::tempPath(), workspace().at("outer")));
+        QVERIFY(QFile::link(workspace().guard().temporary, workspace().at("top")));
+        const RemovalGuard guard = workspace().guard();
+        QCOMPARE(guard.danger(guard.workspace, "LOCALHOST", name).isEmpty(), isSafe);
+    }
+
+    void theFixtureRemovesInItsOwnWorkspaceAlone() {
+        const RemovalGuard guard = workspace().guard();
+        QVERIFY(guard.danger(guard.workspace, "R17", "demo").isEmpty());
+        for (const char* set : {"", "/", "/tmp", "one/two/workspace"})
+            QVERIFY2(!guard.danger(set, "R17", "demo").isEmpty(), set);
+        QVERIFY(!guard.danger(guard.workspace + "/", "R17", "demo").isEmpty());
+        QVERIFY(!(RemovalGuard{"", guard.workspace}.danger(guard.workspace, "R17", "demo").isEmpty()));
+        QVERIFY(!(RemovalGuard{"/", guard.workspace}.danger(guard.workspace, "R17", "demo").isEmpty()));
+        QVERIFY(QDir(guard.workspace).removeRecursively());
+        QVERIFY(!guard.danger(guard.workspace, "R17", "demo").isEmpty());
+        QVERIFY(QFile::link(QDir::tempPath(), guard.workspace));
+        QVERIFY(!guard.danger(guard.workspace, "R17", "demo").isEmpty());
     }
 
     void someNamesAreRefused_data() {
@@ -76,6 +102,67 @@ private slots:
         QVERIFY(!QFile::exists(workspace().at("demo")));
     }
 
+    // The caller's text may be one that somebody changes while the bus answers.
+    void theNameMayGoWhileTheBusAnswers() {
+        workspace().makeFile("demo/a.txt");
+        write("orca.project.autoload_prj_path", "demo/main");
+        QString name = "demo";
+        bus().reply = [&](const Message&) {
+            name.clear();
+            return Content();
+        };
+        QCOMPARE(workspace().remove(name), 0);
+        QVERIFY(name.isEmpty());
+        QCOMPARE(controller().sentAs(Verb::Request), QStringList{"proiect.overview.set_autoload||null"});
+        QCOMPARE(log().lines(), QStringList());
+    }
+
+    void theNodesMayGoWhenTheyAreWritten_data() {
+        QTest::addColumn<QString>("written");
+        QTest::addColumn<QString>("gone");
+        const auto row = [](const char* written, const char* gone) {
+            QTest::addRow("%s, %s", written, gone) << written << gone;
+        };
+        for (const char* key : {"orca.project.autoload_pri_path", "orca.toolpage.tool", "orca.toolpage.wobj",
+                                "orca.project,cur_project", "orca.project.refresh_project"}) {
+            row(key, key);
+            row(key, "orca");
+            row(key, "orca.project");
+            row(key, "orca.toolpage");
+        }
+    }
+    void theNodesMayGoWhenTheyAreWritten() {
+        QFETCH(QString, written);
+        QFETCH(QString, gone);
+        workspace().makeFile("demo/a.txt");
+        write("orca.project.autoload_prj_path", "demo/main");
+        write("orca.project.cur_project", "LOCALHOST/demo");
+        int heard = 0;
+        const QObject listener;
+        connect(m(written), &ModuleObject::changed, &listener, [&] {
+            ++heard;
+            delete m(gone);
+        });
+        QCOMPARE(workspace().remove("demo"), 0);
+        QCOMPARE(heard, 1);
+        QVERIFY(!QFile::exists(workspace().at("demo")));
+        // What comes after that is done all the same.
+        if (written == "orca.project.autoload_pri_path")
+            QCOMPARE(text("orca.toolpage.tool"), QString("tool0"));
+        if (written == "orca.project.autoload_pri_path" || written == "orca.toolpage.tool")
+            QCOMPARE(text("orca.toolpage.wobj"), QString("wobj0"));
+        QCOMPARE(log().lines(), QStringList());
+    }
+
+    void theRequestMayGoWhenItIsPrepared() {
+        write("orca.project.autoload_prj_path", "demo/main");
+        const QObject listener;
+        connect(autoloadRequest()->child("autoload_pri_path"), &ModuleObject::changed, &listener,
+                [] { autoloadRequest()->clear(nullptr, true, true); });
+        QCOMPARE(workspace().remove("demo"), 0);
+        QCOMPARE(controller().sentAs(Verb::Request), QStringList{"proiect.overview.set_autoload||null"});
+    }
+
     void successIsAnErrorLine() {
         workspace().makeFile("demo/a.txt");
         expectSuccess();
@@ -99,7 +186,7 @@ private slots:
     void allThatIsInItGoes() {
         for (const char* name : {"demo/a.txt", "demo/.hidden", "demo/sub/deep/b", "demo/sub/c", "demo/читай"})
             workspace().makeFile(name);
-        Workspace::allow(workspace().at("demo/sub/c"), 0444);
+        workspace().allow(workspace().at("demo/sub/c"), 0444);
         workspace().makeFile("kept");
         QVERIFY(QFile::link(workspace().at("kept"), workspace().at("demo/link")));
         QVERIFY(QFile::link(workspace().path(), workspace().at("demo/sub/link")));

@@ -22,6 +22,9 @@ QString shown(const QVariantList& values) {
         texts << value.toString();
     return "[" + texts.join(",") + "]";
 }
+QString shown(const QVariant& value) {
+    return QString("%1 %2").arg(value.typeName(), value.toString());
+}
 QString shown(const ModuleObject* node) {
     return !node ? "null"
                  : "\"" + node->name() + "\" " + compact(node->exportToJson(true)) + (node->pmobj() ? "!" : "");
@@ -53,6 +56,14 @@ ModuleObject* Relay::execCommand(QObject* sender, const QString& key, ModuleObje
 }
 void Relay::watch(QObject* sender, const QString& key, bool on) {
     note("watch", {shown(sender), key, shown(on)});
+}
+ModuleObject* ModuleObject::append(QObject* sender, const QString& childName) {
+    note("append", {name(), shown(sender), childName});
+    return child(childName);
+}
+void ModuleObject::set(QObject* sender, const QString& key, const QVariant& value, bool notify) {
+    note("set", {name(), shown(sender), key, shown(value), shown(notify)});
+    r(key, true)->setValue(sender, value, notify);
 }
 void ModuleObject::setList(QObject* sender, const QVariantList& values, bool notify) {
     note("setList", {name(), shown(sender), shown(values), shown(notify)});
@@ -86,10 +97,23 @@ private slots:
         log().expect(" moveToStart : ");
         kiteInterface()->moveToStart(result, "P1", 250, true, true);
         QCOMPARE(calls, QStringList({"execCommand(kite; move.reset)", "watch(kite; move.last_error_with_setting; true)",
-                                     "setList(conf; kite; [1,2,3,4,5,6,7,8.5]; true)",
+                                     "append(tmp; kite; point)", "setList(conf; kite; [1,2,3,4,5,6,7,8.5]; true)",
                                      "setList(rot; kite; [0.01,0.0205,-0.09]; true)",
                                      "setList(trans; kite; [0.1,0.1,0.3]; true)",
+                                     "set(tmp; kite; traj.speed; double 0.25; true)",
                                      R"(command(kite; move.j; "tmp" {"point":{},"traj":{"speed":0.25}}))",
+                                     "command(kite; move.opr.enough)"}));
+    }
+
+    void aStartByTheFirstForm() {
+        ModuleObject* list = m("orca.project.point._list");
+        list->importFromJson(nullptr, QJsonArray{MovePoints::cartesian("P1", 100, 200, 300)}, false, true, true);
+        int result = 0;
+        log().expect(" moveToStart : ");
+        kiteInterface()->moveToStart(result, "P1", 250, true);
+        QCOMPARE(calls, QStringList({"execCommand(kite; move.reset)", "watch(kite; move.last_error_with_setting; true)",
+                                     "append(tmp; kite; point)", "set(tmp; kite; traj.speed; double 0.25; true)",
+                                     R"(command(kite; move.j; "tmp" {"traj":{"speed":0.25}}))",
                                      "command(kite; move.opr.enough)"}));
     }
 
@@ -99,12 +123,14 @@ private slots:
         kiteInterface()->moveToStop();
         QCOMPARE(calls, QStringList({"watch(kite; move.last_error_with_setting; false)", "command(kite; move.stop)",
                                      "watch(kite; move.last_error_with_setting; false)",
+                                     "set(tmp; kite; task_space; int 1; true)",
                                      R"(command(kite; move.stop; "tmp" {"task_space":1}))"}));
     }
 
     void aCheck() {
         QCOMPARE(kiteInterface()->checkPointMoveTo("a", "b"), 0);
-        QCOMPARE(calls, QStringList{R"(execCommand(kite; move.path.check; "" {}))"});
+        QCOMPARE(calls, QStringList({"append(; kite; a)", "append(; kite; b)",
+                                     R"(execCommand(kite; move.path.check; "" {}))"}));
     }
 
     void projects() {
@@ -118,6 +144,7 @@ private slots:
         QCOMPARE(calls, QStringList({"get(null; backup.backup_list)",
                                      "writeToJson(demo/projectinfo.json; {create_time,description}; true)",
                                      "writeToJson(demo2/projectinfo.json; {author,create_time,description}; true)",
+                                     "set(tmp; null; name; QString demo; true)",
                                      R"(execCommand(null; project.remove_task; "tmp" {"name":"demo"}))",
                                      "execRequest(proiect.overview.set_autoload; null; true; 1600)"}));
         QCOMPARE(text("orca.project.autoload_pri_path"), QString("before"));

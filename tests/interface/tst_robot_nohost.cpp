@@ -1,4 +1,9 @@
-#include "workspace.h"
+#include "links.h"
+#include "removalguard.h"
+
+#include "brisk/modulemanager.h"
+
+using brisk::ModuleObject;
 
 // Come before the host's own, because a program's symbols do: a tree in which nothing is to be found, and a controller
 // manager without nodes.
@@ -72,7 +77,7 @@ private slots:
         QVERIFY(QFile::exists(workspace + "/LOCALHOST/other/projectinfo.json"));
         log().expect("QString::arg: Argument missing: Remove folder %l failed!, ");
         log().expect("]Remove folder %l failed!");
-        QCOMPARE(HostSettings::get("workspace"), workspace);
+        RemovalGuard{temporary.path(), workspace}.check("LOCALHOST", "demo");
         QCOMPARE(kiteInterface()->removeProject("demo"), 0);
         QVERIFY(!QFile::exists(workspace + "/LOCALHOST/demo"));
         HostSettings::remove("workspace");

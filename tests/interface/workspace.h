@@ -1,7 +1,7 @@
 #pragma once
 
-#include "hostsettings.h"
 #include "links.h"
+#include "removalguard.h"
 
 #include "brisk/modulemanager.h"
 #include "brisk/traffic.h"
@@ -25,11 +25,11 @@ public:
     Workspace() {
         if (!m_folder.isValid() || !QDir().mkpath(path()))
             qFatal("There is no temporary folder for the workspace.");
-        openToAll(m_folder.path());
+        setMode(m_folder.path(), openMode);
         for (const char* part : {"/one", "/one/two", "/one/two/workspace"})
             openToAll(m_folder.path() + part);
         HostSettings::set("workspace", path());
-        mustBeSafe("project");
+        guard().check(robot(), "project");
     }
     ~Workspace() { HostSettings::remove("workspace"); }
 
@@ -59,37 +59,41 @@ public:
         QFile file(at(below));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
-
-    bool isInside(const QString& filePath) const {
-        return QDir::cleanPath(filePath).startsWith(QDir::cleanPath(m_folder.path()) + "/");
+    /// Makes a folder below the robot's, with the folders that lead to it; everybody may write in all of them.
+    void makeFolder(const QString& below) const {
+        mustBeInside(at(below));
+        if (!QDir().mkpath(at(below)))
+            qFatal("%s cannot be made.", qPrintable(at(below)));
+        const QString end = QDir::cleanPath(path());
+        for (QString folder = QDir::cleanPath(at(below)); folder != end; folder = QFileInfo(folder).path())
+            openToAll(folder);
     }
+
     /// removeProject(), where that stays within the temporary folder.
     int remove(const QString& name) const {
-        mustBeSafe(name);
+        guard().check(robot(), name);
         return kiteInterface()->removeProject(name);
     }
+    RemovalGuard guard() const { return {m_folder.path(), path()}; }
 
-    static void openToAll(const QString& path) { allow(path, 0777); }
+    /// Everybody may do everything with that file or folder.
+    void openToAll(const QString& filePath) const { allow(filePath, openMode); }
     /// Sets the permissions of a file or folder.
-    static void allow(const QString& path, mode_t mode) {
-        if (chmod(QFile::encodeName(path), mode) != 0)
-            qFatal("The permissions of %s cannot be set.", qPrintable(path));
+    void allow(const QString& filePath, mode_t mode) const {
+        mustBeInside(filePath);
+        setMode(filePath, mode);
     }
 
 private:
-    void mustBeInside(const QString& filePath) const {
-        if (!isInside(filePath))
-            qFatal("%s is outside the temporary folder.", qPrintable(filePath));
+    static const mode_t openMode = 0777;
+
+    static void setMode(const QString& filePath, mode_t mode) {
+        if (chmod(QFile::encodeName(filePath), mode) != 0)
+            qFatal("The permissions of %s cannot be set.", qPrintable(filePath));
     }
-    // Also that the setting is what it was: an empty one leads to the root of the disk.
-    void mustBeSafe(const QString& name) const {
-        const QString set = HostSettings::get("workspace");
-        const QString temporary = QFileInfo(m_folder.path()).canonicalFilePath();
-        if (set.isEmpty() || set != path() || temporary.isEmpty() || temporary == "/")
-            qFatal("The workspace is \"%s\".", qPrintable(set));
-        if (QFileInfo(set).exists() && QFileInfo(set).canonicalFilePath() != temporary + "/one/two/workspace")
-            qFatal("The workspace does not lie three folders below %s.", qPrintable(temporary));
-        mustBeInside(set + "/" + robot() + "/" + name);
+    void mustBeInside(const QString& filePath) const {
+        if (!guard().isInside(filePath))
+            qFatal("%s is outside the temporary folder.", qPrintable(filePath));
     }
     static QStringList contentOf(const QString& path) {
         QStringList names;
