@@ -21,8 +21,9 @@ QString bareNamePattern(const QString& type) {
 
 helm::WidgetCreator wrapping(ContentFactory factory) {
     return [factory = std::move(factory)](QWidget* parent) -> helm::BaseContentWidget* {
-        VexContentBase* content = factory();
-        return new VexBaseWidget(content, parent);
+        // What it makes its content of goes when it registers its own type anew.
+        const ContentFactory own = factory;
+        return new VexBaseWidget(own(), parent);
     };
 }
 

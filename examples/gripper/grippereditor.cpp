@@ -1,10 +1,14 @@
 #include "grippereditor.h"
 
+#include "emptiablefield.h"
+
 #include <QDoubleSpinBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSpinBox>
 #include <QVBoxLayout>
+
+#include <limits>
 
 namespace {
 
@@ -19,30 +23,28 @@ QString number(double value) {
 } // namespace
 
 GripperEditor::GripperEditor(const LineForm& form, const QString& title, QWidget* parent)
-    : VexContentBase(parent), m_form(form), m_title(title), m_value(new QDoubleSpinBox), m_wait(new QSpinBox),
-      m_comment(new QLineEdit), m_reason(new QLabel) {
+    : VexContentBase(parent), m_form(form), m_title(title), m_value(new EmptiableField<QDoubleSpinBox>(tr("not set"))),
+      m_wait(new EmptiableField<QSpinBox>(tr("none"))), m_comment(new QLineEdit), m_reason(new QLabel) {
     makeFields();
     layOut();
     showLine(GripperLine());
     showReason(QString());
-    // Whatever was wrong is being put right.
-    connect(m_value, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, [this] { showReason(QString()); });
-    connect(m_comment, &QLineEdit::textChanged, this, &GripperEditor::keepOnOneLine);
+    connect(m_value, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, &GripperEditor::follow);
+    connect(m_comment, &QLineEdit::textChanged, this, &GripperEditor::follow);
 }
 
 void GripperEditor::makeFields() {
     m_value->setObjectName(QStringLiteral("value"));
-    m_value->setRange(0.0, m_form.most);
-    m_value->setSpecialValueText(tr("not set"));
-    m_value->setSingleStep(5.0);
     m_value->setDecimals(1);
-    m_value->setSuffix(QLatin1Char(' ') + m_form.unit);
+    m_value->setRange(0.0, m_form.most);
+    m_value->setSingleStep(5.0);
     m_wait->setObjectName(QStringLiteral("wait"));
     m_wait->setRange(0, longestWaitMs);
     m_wait->setSingleStep(50);
-    m_wait->setSuffix(QStringLiteral(" ms"));
     m_comment->setObjectName(QStringLiteral("comment"));
     m_comment->setPlaceholderText(tr("What the next person should know"));
+    // A line edit cuts a longer text without a word.
+    m_comment->setMaxLength(std::numeric_limits<int>::max());
     m_reason->setObjectName(QStringLiteral("reason"));
     m_reason->setProperty("state", QStringLiteral("error"));
     m_reason->setWordWrap(true);
@@ -53,7 +55,8 @@ void GripperEditor::layOut() {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(spacingPx / 2);
-    const QList<QPair<QString, QWidget*>> fields{{m_title, m_value}, {tr("Wait"), m_wait}, {tr("Comment"), m_comment}};
+    const QList<QPair<QString, QWidget*>> fields{
+        {tr("%1 (%2)").arg(m_title, m_form.unit), m_value}, {tr("Wait (ms)"), m_wait}, {tr("Comment"), m_comment}};
     for (const auto& field : fields) {
         auto* caption = new QLabel(field.first);
         caption->setProperty("caption", true);
@@ -68,9 +71,10 @@ void GripperEditor::layOut() {
 
 void GripperEditor::FillWith(const QString& line) {
     GripperLine read;
-    m_isFilled = readLine(m_form, line, &read);
+    const bool isOwn = readLine(m_form, line, &read);
+    m_filled = isOwn ? Filled::WithOwnLine : Filled::WithForeignLine;
     showLine(read);
-    showReason(m_isFilled ? QString() : tr("The line in the program is none of %1.").arg(m_form.type));
+    showReason(isOwn ? whyOutOfRange(read.value) : whyForeign());
 }
 
 QString GripperEditor::ToString() {
@@ -78,29 +82,22 @@ QString GripperEditor::ToString() {
 }
 
 bool GripperEditor::CheckInsert() {
-    if (!isInRange(m_form, shownValue()))
-        return refuse(tr("%1: set a value from %2 to %3 %4.")
-                          .arg(m_title, number(m_form.least), number(m_form.most), m_form.unit));
-    showReason(QString());
-    return true;
+    return accept(whatIsAmiss());
 }
 
 bool GripperEditor::CheckReplace() {
-    if (!m_isFilled)
-        return refuse(tr("The line in the program is none of %1 and stays.").arg(m_form.type));
-    return CheckInsert();
+    return accept(m_filled == Filled::WithOwnLine ? whatIsAmiss() : whyForeign());
 }
 
-// A comment that is pasted may have several lines.
-void GripperEditor::keepOnOneLine(const QString& comment) {
-    const QString kept = onOneLine(comment);
-    if (kept != comment)
-        m_comment->setText(kept);
+// A reason that is shown stays until what it says is put right.
+void GripperEditor::follow() {
+    if (!m_reason->text().isEmpty())
+        showReason(m_filled == Filled::WithForeignLine ? whyForeign() : whatIsAmiss());
 }
 
 // What is shown nowhere is kept beside.
 void GripperEditor::showLine(const GripperLine& line) {
-    m_value->setValue(line.value);
+    m_value->setValue(isInRange(m_form, line.value) ? line.value : 0.0);
     m_wait->setValue(line.waitMs);
     m_comment->setText(line.comment);
     ownText = line.indent;
@@ -115,14 +112,36 @@ GripperLine GripperEditor::shownLine() const {
     return line;
 }
 
-// A field that has been emptied still has its last value until it is left.
+// While something is typed that is no number yet, the field still has its last value.
 double GripperEditor::shownValue() const {
-    return m_value->cleanText().isEmpty() ? 0.0 : m_value->value();
+    return m_value->hasAcceptableInput() ? m_value->value() : 0.0;
 }
 
-bool GripperEditor::refuse(const QString& reason) {
-    showReason(reason);
-    return false;
+QString GripperEditor::whyForeign() const {
+    return tr("The line in the program is none of %1 and stays.").arg(m_form.type);
+}
+
+// A value that is not set in the line is nothing to complain of yet.
+QString GripperEditor::whyOutOfRange(double value) const {
+    if (value <= 0.0 || isInRange(m_form, value))
+        return QString();
+    return tr("The line says %1 %2.").arg(number(value), m_form.unit) + QLatin1Char(' ') + whatIsAmiss();
+}
+
+QString GripperEditor::whatIsAmiss() const {
+    if (!isInRange(m_form, shownValue()))
+        return tr("%1: set a value from %2 to %3 %4.")
+            .arg(m_title, number(m_form.least), number(m_form.most), m_form.unit);
+    // All that can make a line which is not this instruction's any more, such as half of a character.
+    GripperLine read;
+    if (!readLine(m_form, writeLine(m_form, shownLine()), &read))
+        return tr("Comment: it has something in it that is no text.");
+    return QString();
+}
+
+bool GripperEditor::accept(const QString& refusal) {
+    showReason(refusal);
+    return refusal.isEmpty();
 }
 
 void GripperEditor::showReason(const QString& reason) {

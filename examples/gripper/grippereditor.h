@@ -19,20 +19,27 @@ public:
     /// \param title what the value is called
     GripperEditor(const LineForm& form, const QString& title, QWidget* parent);
 
-    /// A line that is not this instruction's leaves the value unset, and cannot be replaced.
+    /// A line that is not this instruction's leaves the value unset, and cannot be replaced; nor is a value taken over
+    /// that is out of range. Both are said at once.
     void FillWith(const QString& line) override;
     QString ToString() override;
     bool CheckInsert() override;
     bool CheckReplace() override;
 
 private:
+    enum class Filled { Never, WithOwnLine, WithForeignLine };
+
     void makeFields();
     void layOut();
-    void keepOnOneLine(const QString& comment);
+    void follow();
     void showLine(const GripperLine& line);
     GripperLine shownLine() const;
     double shownValue() const;
-    bool refuse(const QString& reason);
+
+    QString whyForeign() const;
+    QString whyOutOfRange(double value) const;
+    QString whatIsAmiss() const;
+    bool accept(const QString& refusal);
     void showReason(const QString& reason);
 
     const LineForm& m_form;
@@ -41,5 +48,5 @@ private:
     QSpinBox* m_wait;
     QLineEdit* m_comment;
     QLabel* m_reason;
-    bool m_isFilled = false;
+    Filled m_filled = Filled::Never;
 };

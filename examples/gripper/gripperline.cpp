@@ -2,6 +2,8 @@
 
 #include <QRegularExpression>
 
+#include <algorithm>
+
 namespace {
 
 // 40 -> "40", 12.5 -> "12.5", 0 -> "?"
@@ -17,6 +19,11 @@ QString valueText(double value) {
 // "// slowly" -> "slowly", "//slowly" -> "slowly"
 QString commentText(const QString& behindTheSlashes) {
     return behindTheSlashes.startsWith(QLatin1Char(' ')) ? behindTheSlashes.mid(1) : behindTheSlashes;
+}
+
+bool breaksALine(QChar character) {
+    const ushort code = character.unicode();
+    return code == 0 || (code >= 0xa && code <= 0xd) || code == 0x85 || code == 0x2028 || code == 0x2029;
 }
 
 } // namespace
@@ -48,8 +55,7 @@ bool readLine(const LineForm& form, const QString& text, GripperLine* line) {
     if (!match.hasMatch())
         return false;
     // "?" reads as 0.
-    const double value = match.captured(QStringLiteral("value")).toDouble();
-    line->value = isInRange(form, value) ? value : 0.0;
+    line->value = match.captured(QStringLiteral("value")).toDouble();
     line->waitMs = match.captured(QStringLiteral("wait")).toInt();
     line->comment = commentText(match.captured(QStringLiteral("comment")));
     line->indent = match.captured(QStringLiteral("indent"));
@@ -67,7 +73,8 @@ bool isInRange(const LineForm& form, double value) {
     return value >= form.least && value <= form.most;
 }
 
+// Not by a regular expression: it refuses a text with half of a surrogate pair, and would leave its breaks in.
 QString onOneLine(QString text) {
-    static const QRegularExpression breaks(QStringLiteral("[\\x{0}\\x{a}-\\x{d}\\x{85}\\x{2028}\\x{2029}]"));
-    return text.replace(breaks, QStringLiteral(" "));
+    std::replace_if(text.begin(), text.end(), breaksALine, QChar(QLatin1Char(' ')));
+    return text;
 }

@@ -13,10 +13,11 @@ struct LineForm {
 
 /// What a line says.
 struct GripperLine {
-    /// A force in N or a width in mm, with one decimal; 0 while it is not set.
+    /// A force in N or a width in mm: 0.1 to 999.9 with one decimal, or 0 while it is not set.
     double value = 0.0;
+    /// 0 to longestWaitMs.
     int waitMs = 200;
-    /// Without the "//" and one blank behind it; empty for none.
+    /// Without the "//" and one blank behind it, and without line breaks; empty for none.
     QString comment;
     /// The blanks in front of the line.
     QString indent;
@@ -43,12 +44,13 @@ QString linePattern(const LineForm& form);
 QString lineSkeleton(const LineForm& form);
 
 /// Reads a line.
-/// \param line  left alone when `text` does not belong to the form. A value that is out of range is not taken over.
+/// \param line  left alone when `text` does not belong to the form. Its value may be out of the form's range.
 /// \return whether it belongs to the form
 bool readLine(const LineForm& form, const QString& text, GripperLine* line);
 
-/// The line in the form; readLine() gives the same back, save a value out of range. What would break the line in two
-/// becomes a blank.
+/// The line in the form. readLine() gives the same back, as long as `line` holds what its fields allow. Of anything
+/// else: a value is rounded to one decimal, what would break the line in two becomes a blank; and a value or a wait
+/// with too many digits, a negative wait or half of a surrogate pair makes a line that does not belong to the form.
 QString writeLine(const LineForm& form, const GripperLine& line);
 
 bool isInRange(const LineForm& form, double value);

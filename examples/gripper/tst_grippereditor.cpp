@@ -28,7 +28,7 @@ public:
     QLineEdit* comment() { return wrapper.findChild<QLineEdit*>("comment"); }
     QString reason() { return wrapper.findChild<QLabel*>("reason")->text(); }
     QString fields() {
-        return QStringLiteral("%1|%2|%3").arg(value()->value()).arg(wait()->value()).arg(comment()->text());
+        return QStringLiteral("%1|%2|").arg(value()->value()).arg(wait()->value()) + onOneLine(comment()->text());
     }
 
     kite::VexBaseWidget wrapper;
@@ -96,6 +96,9 @@ private slots:
     void theCommentIsKept_data();
     void theCommentIsKept();
     void aPastedCommentStaysOnOneLine();
+    void aPastedCommentLeavesCursorAndUndoAlone();
+    void aCommentThatIsNoTextIsRefused_data();
+    void aCommentThatIsNoTextIsRefused();
     void aForeignLineIsNotReplaced_data();
     void aForeignLineIsNotReplaced();
     void withoutALineThereIsNothingToReplace();
@@ -133,7 +136,8 @@ void TestGripperEditor::seeds() {
 void TestGripperEditor::aNewEditorHasNoValueAndAWait() {
     QFETCH(Instruction, instruction);
     Shown shown(instruction.make());
-    QCOMPARE(shown.value()->text(), QString("not set"));
+    QCOMPARE(shown.value()->text(), QString());
+    QCOMPARE(shown.value()->findChild<QLineEdit*>()->placeholderText(), QString("not set"));
     QCOMPARE(shown.wait()->value(), 200);
     QCOMPARE(shown.comment()->text(), QString());
     QCOMPARE(shown.reason(), QString());
@@ -185,6 +189,7 @@ void TestGripperEditor::theSkeletonLeavesTheValueToThePerson() {
     shown.value()->setValue(40);
     shown.wrapper.FillWith(lineSkeleton(*instruction.form));
     QCOMPARE(shown.fields(), QString("0|200|"));
+    QCOMPARE(shown.reason(), QString());
     QVERIFY(!shown.wrapper.CheckInsert());
     QVERIFY(!shown.wrapper.CheckReplace());
     shown.value()->setValue(40);
@@ -213,7 +218,10 @@ void TestGripperEditor::theCommentIsKept_data() {
     QTest::newRow("other letters") << QString::fromUtf8(" // 轻 – sanft 🤖");
     QTest::newRow("regular-expression characters") << " // ^(.*)$\\d+[%1]";
     QTest::newRow("an instruction") << " // OpenGripper width=80mm wait=200ms";
-    QTest::newRow("very long") << " // " + QString(20000, 'x');
+    QTest::newRow("very long") << " // " + QString(40000, 'x');
+    for (const int length : {32765, 32766, 32767, 32768})
+        QTest::addRow("a pair behind %d letters", length)
+            << " // " + QString(length, 'x') + QString::fromUtf8("🤖") + "tail";
 }
 
 void TestGripperEditor::theCommentIsKept() {
@@ -228,8 +236,45 @@ void TestGripperEditor::aPastedCommentStaysOnOneLine() {
     Shown shown(new CloseGripperEditor);
     shown.value()->setValue(40);
     shown.comment()->insert("softly\nMoveJ P1");
-    QCOMPARE(shown.comment()->text(), QString("softly MoveJ P1"));
+    QCOMPARE(shown.comment()->displayText(), QString("softly MoveJ P1"));
     QCOMPARE(shown.wrapper.ToString(), QString("CloseGripper force=40N wait=200ms // softly MoveJ P1"));
+}
+
+// The field does not interfere with what the person is doing in it.
+void TestGripperEditor::aPastedCommentLeavesCursorAndUndoAlone() {
+    Shown shown(new CloseGripperEditor);
+    shown.value()->setValue(40);
+    QTest::keyClicks(shown.comment(), "abcd");
+    shown.comment()->setCursorPosition(2);
+    shown.comment()->insert("x\ny");
+    QCOMPARE(shown.comment()->cursorPosition(), 5);
+    QCOMPARE(shown.wrapper.ToString(), QString("CloseGripper force=40N wait=200ms // abx ycd"));
+    shown.comment()->undo();
+    QCOMPARE(shown.wrapper.ToString(), QString("CloseGripper force=40N wait=200ms // abcd"));
+    shown.comment()->redo();
+    QCOMPARE(shown.wrapper.ToString(), QString("CloseGripper force=40N wait=200ms // abx ycd"));
+}
+
+void TestGripperEditor::aCommentThatIsNoTextIsRefused_data() {
+    QTest::addColumn<QString>("comment");
+    QTest::newRow("first half") << "a" + QString(QChar(0xd83e));
+    QTest::newRow("second half") << QString(QChar(0xdd16)) + "a";
+    QTest::newRow("after a line break") << "a\nMoveJ P1" + QString(QChar(0xd83e)) + "tail";
+}
+
+void TestGripperEditor::aCommentThatIsNoTextIsRefused() {
+    QFETCH(QString, comment);
+    Shown shown(new CloseGripperEditor);
+    shown.wrapper.FillWith("CloseGripper force=40N wait=200ms");
+    shown.comment()->setText(comment);
+    QVERIFY(!shown.wrapper.CheckInsert());
+    QVERIFY(!shown.wrapper.CheckReplace());
+    QVERIFY2(shown.reason().startsWith("Comment: "), qPrintable(shown.reason()));
+    QVERIFY(!shown.wrapper.ToString().contains('\n'));
+    shown.comment()->setText("a");
+    QCOMPARE(shown.reason(), QString());
+    QVERIFY(shown.wrapper.CheckInsert());
+    QVERIFY(shown.wrapper.CheckReplace());
 }
 
 void TestGripperEditor::aForeignLineIsNotReplaced_data() {
@@ -247,10 +292,12 @@ void TestGripperEditor::aForeignLineIsNotReplaced() {
     shown.wrapper.FillWith("CloseGripper force=40N wait=50ms // softly");
     shown.wrapper.FillWith(line);
     QCOMPARE(shown.fields(), QString("0|200|"));
-    QVERIFY(!shown.reason().isEmpty());
+    const QString reason = "The line in the program is none of CloseGripper and stays.";
+    QCOMPARE(shown.reason(), reason);
     shown.value()->setValue(40);
+    QCOMPARE(shown.reason(), reason);
     QVERIFY(!shown.wrapper.CheckReplace());
-    QVERIFY(shown.reason().contains("CloseGripper"));
+    QCOMPARE(shown.reason(), reason);
     QVERIFY(shown.wrapper.CheckInsert());
     QCOMPARE(shown.reason(), QString());
 }
@@ -266,9 +313,13 @@ void TestGripperEditor::aValueOutOfRangeHasToBeSetAgain() {
     Shown shown(new CloseGripperEditor);
     shown.wrapper.FillWith("CloseGripper force=900N wait=50ms // softly");
     QCOMPARE(shown.fields(), QString("0|50|softly"));
+    QCOMPARE(shown.reason(), QString("The line says 900 N. Force: set a value from 1 to 200 N."));
     QVERIFY(!shown.wrapper.CheckReplace());
-    QVERIFY(!shown.reason().isEmpty());
+    QCOMPARE(shown.reason(), QString("Force: set a value from 1 to 200 N."));
+    shown.wrapper.FillWith("CloseGripper force=0.5N wait=50ms");
+    QCOMPARE(shown.reason(), QString("The line says 0.5 N. Force: set a value from 1 to 200 N."));
     shown.value()->setValue(200);
+    QCOMPARE(shown.reason(), QString());
     QVERIFY(shown.wrapper.CheckReplace());
 }
 
@@ -327,9 +378,10 @@ void TestGripperEditor::anyLineAtAllIsSurvived() {
         shown.wrapper.FillWith(line);
         GripperLine expected;
         const bool isOurs = readLine(*instruction.form, line, &expected);
-        QCOMPARE(shown.wrapper.CheckReplace(), isOurs && isInRange(*instruction.form, expected.value));
-        QCOMPARE(shown.fields(),
-                 QStringLiteral("%1|%2|%3").arg(expected.value).arg(expected.waitMs).arg(onOneLine(expected.comment)));
+        const bool isInForm = isInRange(*instruction.form, expected.value);
+        QCOMPARE(shown.wrapper.CheckReplace(), isOurs && isInForm);
+        QCOMPARE(shown.fields(), QStringLiteral("%1|%2|").arg(isInForm ? expected.value : 0.0).arg(expected.waitMs) +
+                                     onOneLine(expected.comment));
     }
 }
 

@@ -16,6 +16,8 @@ private slots:
     void theLinesOfOneFormAreNotTheOthers();
     void whatIsWrittenIsReadBack_data();
     void whatIsWrittenIsReadBack();
+    void whatNoFieldAllowsMakesNoLineOfTheForm_data();
+    void whatNoFieldAllowsMakesNoLineOfTheForm();
     void whatIsReadIsWrittenBack();
     void everyBreakBecomesABlank();
 };
@@ -43,8 +45,8 @@ void TestGripperLine::aLineIsRead_data() {
     row("the ends of the range", "CloseGripper force=200.0N wait=9999ms", 200, 9999, "");
     row("zeros in front", "CloseGripper force=001.0N wait=0007ms", 1, 7, "");
     row("a value that is not set", "CloseGripper force=?N wait=200ms // ask", 0, 200, "ask");
-    row("a value above the range", "CloseGripper force=200.1N wait=300ms // a", 0, 300, "a");
-    row("a value below the range", "CloseGripper force=0.9N wait=300ms", 0, 300, "");
+    row("a value above the range", "CloseGripper force=200.1N wait=300ms // a", 200.1, 300, "a");
+    row("a value below the range", "CloseGripper force=0.9N wait=300ms", 0.9, 300, "");
 }
 
 void TestGripperLine::aLineIsRead() {
@@ -112,6 +114,7 @@ void TestGripperLine::aLineIsWritten_data() {
     QTest::newRow("no value") << GripperLine{0, 200, "", ""} << "OpenGripper width=?mm wait=200ms";
     QTest::newRow("a comment of two lines")
         << GripperLine{40, 200, "a\nMoveJ P1", ""} << "OpenGripper width=40mm wait=200ms // a MoveJ P1";
+    QTest::newRow("two decimals") << GripperLine{12.34, 200, "", ""} << "OpenGripper width=12.3mm wait=200ms";
 }
 
 void TestGripperLine::aLineIsWritten() {
@@ -136,23 +139,38 @@ void TestGripperLine::theLinesOfOneFormAreNotTheOthers() {
 
 void TestGripperLine::whatIsWrittenIsReadBack_data() {
     QTest::addColumn<double>("tenths");
-    for (const double tenths : {1.0, 10.0, 11.0, 333.0, 999.0, 1000.0, 1200.0})
+    for (const double tenths : {0.0, 1.0, 10.0, 11.0, 333.0, 999.0, 1000.0, 1200.0, 9999.0})
         QTest::addRow("%g", tenths) << tenths;
 }
 
-// Every wait, with values all over the range.
+// Waits all over the range, with values in and out of it.
 void TestGripperLine::whatIsWrittenIsReadBack() {
     QFETCH(double, tenths);
     const LineForm& form = openGripperForm();
-    for (int waitMs = 0; waitMs <= longestWaitMs; waitMs += 7) {
+    for (int waitMs = 0; waitMs <= longestWaitMs; waitMs += 9) {
         const double value = tenths / 10.0;
         GripperLine read;
         QVERIFY(readLine(form, writeLine(form, {value, waitMs, "c", " \t"}), &read));
-        QCOMPARE(read.value, isInRange(form, value) ? value : 0.0);
+        QCOMPARE(read.value, value);
         QCOMPARE(read.waitMs, waitMs);
         QCOMPARE(read.comment, QString("c"));
         QCOMPARE(read.indent, QString(" \t"));
     }
+}
+
+void TestGripperLine::whatNoFieldAllowsMakesNoLineOfTheForm_data() {
+    QTest::addColumn<GripperLine>("line");
+    QTest::newRow("value of four digits") << GripperLine{1000.0, 200, "", ""};
+    QTest::newRow("value that is rounded up to four digits") << GripperLine{999.96, 200, "", ""};
+    QTest::newRow("wait of five digits") << GripperLine{40, longestWaitMs + 1, "", ""};
+    QTest::newRow("negative wait") << GripperLine{40, -1, "", ""};
+    QTest::newRow("half of a surrogate pair") << GripperLine{40, 200, QChar(0xd83e), ""};
+}
+
+void TestGripperLine::whatNoFieldAllowsMakesNoLineOfTheForm() {
+    QFETCH(GripperLine, line);
+    GripperLine read;
+    QVERIFY(!readLine(openGripperForm(), writeLine(openGripperForm(), line), &read));
 }
 
 void TestGripperLine::whatIsReadIsWrittenBack() {
@@ -172,6 +190,7 @@ void TestGripperLine::everyBreakBecomesABlank() {
     for (const int code : {0x0, 0xa, 0xb, 0xc, 0xd, 0x85, 0x2028, 0x2029}) {
         text[1] = QChar(code);
         QCOMPARE(onOneLine(text), QString("a b"));
+        QCOMPARE(onOneLine(text + QChar(0xd83e)), "a b" + QString(QChar(0xd83e)));
     }
     for (const int code : {0x9, 0x20, 0x41, 0x2027, 0x202a, 0xd83e}) {
         text[1] = QChar(code);

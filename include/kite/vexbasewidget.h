@@ -22,8 +22,11 @@ namespace kite {
 /// | CheckReplace() | the content's               | CheckInsert() of this object, which a class  |
 /// |                |                             | derived from it may have overridden          |
 ///
-/// Take care: without content everything is accepted. A factory that returns null, or a content that is deleted while
-/// it is shown, makes an instruction that inserts empty lines.
+/// Take care: without content everything is accepted, and the line is empty. That is so when the factory returned null,
+/// and from then on when the content is deleted before this widget. What comes of it is the program editor's affair.
+/// This pendant's writes the empty line of a factory that returned null, with a warning that the instruction's pattern
+/// does not match it. Of a content that was deleted it writes nothing, and when that happened in one of these calls the
+/// message list says "Its widget deleted itself in ...".
 ///
 /// User-interface thread only.
 /// \since 0.1

@@ -56,7 +56,8 @@ public:
     virtual bool CheckReplace();
 
 protected:
-    /// Yours to use, for example for the line that was filled in. Kite neither reads nor writes it; empty at first.
+    /// A text of your own, to keep what FillWith() was given and no field shows, so that ToString() can give it back:
+    /// the blanks in front of the line, a comment, or the whole line. Kite neither reads nor writes it; empty at first.
     QString ownText;
 
 private:

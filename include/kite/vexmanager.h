@@ -32,6 +32,9 @@ using ContentFactory = std::function<VexContentBase*()>;
 ///   are replaced without a word. Begin yours with something of your own.
 /// - **A factory outlives the plugin object.** Let it capture nothing that dies before the process.
 /// - **Names are compared with their case**, as they are passed: blanks at the ends count.
+/// - **Titles and descriptions stay as they are passed.** A tr() gives the text of the language of that moment; when
+/// the
+///   person chooses another language, it does not follow. To register them again is no way out, see above.
 ///
 /// User-interface thread only; nothing is locked.
 /// \since 0.1
@@ -71,12 +74,13 @@ public:
     /// @name Groups
     /// @{
 
-    /// Appends a group with its title. Call it once for each group: a second call appends it again.
+    /// Appends a group with its title. Call it once for each group: a second call appends it again. This pendant shows
+    /// the first title that a group was given, and the key `group` for want of one.
     void createGroups(const QString& group, const QString& title);
 
     /// Appends `types` to what stands in `group`, also when they stand there already. The group need not have been made
-    /// by createGroups(), nor the types registered. Pass a single type without braces: `{"A"}` does not compile, for it
-    /// could be either overload's.
+    /// by createGroups(), nor the types registered; an empty list makes the group's list of members, which stays empty.
+    /// Pass a single type without braces: `{"A"}` does not compile, for it could be either overload's.
     void createTypeToGroup(const QString& group, const QStringList& types);
     void createTypeToGroup(const QString& group, const QString& type);
 
@@ -105,11 +109,13 @@ public:
 
     /// Has the program editor show what `factory` makes when an instruction of `type` is to be inserted.
     ///
-    /// The registry keeps a copy of `factory` and calls it each time it needs a widget. It returns a new content
-    /// without parent each time, which a VexBaseWidget takes over; one that returns the same content twice takes it
-    /// away from where it was. When it returns null the widget stays empty, and its checks accept (see VexBaseWidget).
-    /// What it throws goes into the program editor. An empty factory is not refused here: it throws
-    /// std::bad_function_call when the program editor calls it.
+    /// The registry keeps a copy of `factory`, and calls a copy of that each time it needs a widget: a factory that
+    /// counts in a variable of its own starts anew on every call, so keep elsewhere what has to last; and it may
+    /// register its own type anew while it is called. It returns a new content without parent each time, which a
+    /// VexBaseWidget takes over; one that returns the same content twice takes it away from where it was. When it
+    /// returns null the widget stays empty, and its checks accept (see VexBaseWidget). What it throws goes into the
+    /// program editor. An empty factory is not refused here: it throws std::bad_function_call when the program editor
+    /// calls it.
     void createInsertWidget(const QString& type, ContentFactory factory);
 
     /// The same for when the person has selected a line of `type`: the line is handed to the content's FillWith().

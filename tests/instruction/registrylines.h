@@ -5,7 +5,7 @@
 #include <QStringList>
 
 /// What stands in the host's registry of instructions, a line an entry, lists in their order and hashes sorted:
-/// "type A", "group G|Title", "member G|A", "pattern c_A|^A$", "insert widget A", ...
+/// "type A", "group G|Title", "member G|A", "no member of G", "pattern c_A|^A$", "insert widget A", ...
 inline QStringList registryLines() {
     const helm::VexManager& registry = *helm::VexManager::getVexManager();
     QStringList lists;
@@ -16,6 +16,8 @@ inline QStringList registryLines() {
     QStringList groups = registry.groupMembers.keys();
     groups.sort();
     for (const QString& group : groups) {
+        if (registry.groupMembers.value(group).isEmpty())
+            lists << "no member of " + group;
         for (const QString& type : registry.groupMembers.value(group))
             lists << "member " + group + '|' + type;
     }

@@ -1,16 +1,33 @@
 #include "registrylines.h"
+#include "symbolbinding.h"
 
 #include "pendanttest/pendant.h"
 
 #include "brisk/modulemanager.h"
+#include "kite/vexmanager.h"
 
+#include <QFile>
 #include <QTest>
 
+#include <dlfcn.h>
 #include <memory>
 
 using pendanttest::Pendant;
 
 namespace {
+
+// With the last flag a shared object takes its own copy of the accessor before the one that program and host export, so
+// that nothing but the symbol's being unique keeps the registries one. Sanitizers cannot load with it.
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+const int loadFlags = RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE;
+#else
+const int loadFlags = RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE | RTLD_DEEPBIND;
+#endif
+
+QString libraryOf(const void* address) {
+    Dl_info info;
+    return ::dladdr(address, &info) ? QFile::decodeName(info.dli_fname) : QString();
+}
 
 QString told(const QString& plugin, const QString& what) {
     return m("fixture.instructions." + plugin + '.' + what)->value().toString();
@@ -19,16 +36,32 @@ QString told(const QString& plugin, const QString& what) {
 } // namespace
 
 // Two shared objects, each loaded with local scope, register instructions: there is one registry for both and the host.
-// The cases share a pendant, for a shared object registers its plugins once.
+// The cases share a pendant, for a shared object registers its plugins once, when it is loaded.
 class TestSharedObjects : public QObject {
     Q_OBJECT
 
 private slots:
     void initTestCase() {
         m_pendant.reset(new Pendant);
-        QVERIFY(m_pendant->load(PLUGIN_fixture_instructingleft));
-        QVERIFY(m_pendant->load(PLUGIN_fixture_instructingright));
+        for (const char* path : {PLUGIN_fixture_instructingleft, PLUGIN_fixture_instructingright})
+            QVERIFY2(::dlopen(path, loadFlags), ::dlerror());
         m_pendant->start();
+    }
+
+    void theRegistryIsAUniqueSymbolOfEveryFileThatHasIt_data() {
+        QTest::addColumn<QString>("path");
+        QTest::newRow("left") << QString(PLUGIN_fixture_instructingleft);
+        QTest::newRow("right") << QString(PLUGIN_fixture_instructingright);
+        QTest::newRow("the host's library") << libraryOf(&helm::BaseContentWidget::staticMetaObject);
+        QTest::newRow("the plugin library") << libraryOf(&kite::VexManager::staticMetaObject);
+    }
+
+    void theRegistryIsAUniqueSymbolOfEveryFileThatHasIt() {
+        QFETCH(QString, path);
+        QVERIFY2(path.contains(".so"), qPrintable(path));
+        QCOMPARE(bindingOf("_ZZN4helm10VexManager13getVexManagerEvE8registry", path), int(STB_GNU_UNIQUE));
+        QCOMPARE(bindingOf("_ZGVZN4helm10VexManager13getVexManagerEvE8registry", path), int(STB_GNU_UNIQUE));
+        QCOMPARE(bindingOf("_ZN4helm10VexManager13getVexManagerEv", path), int(STB_WEAK));
     }
 
     void eachSeesTheOneRegistryOfTheHost() {
@@ -62,7 +95,9 @@ private slots:
                                                "property widget left",
                                                "property widget right",
                                                "skeleton s_left|left",
-                                               "skeleton s_right|right"}));
+                                               "skeleton s_right|right",
+                                               "title left|Written by left",
+                                               "title right|Written by right"}));
     }
 
     void theHostMakesTheWidgetsOfBoth() {

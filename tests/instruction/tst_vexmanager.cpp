@@ -7,6 +7,7 @@
 #include <QTest>
 
 #include <functional>
+#include <memory>
 
 using kite::VexManager;
 
@@ -64,6 +65,26 @@ kite::VexContentBase* noContent() {
     return nullptr;
 }
 
+// In a factory: tells, when the factory is replaced, what has come to the type A by then that is not "old" any more.
+struct Witness {
+    Witness(const QString& aName, QStringList* aList) : name(aName), seen(aList) {}
+    ~Witness() {
+        QStringList lines = changes(somebodyElses, registryLines());
+        lines.removeOne("type A");
+        lines.removeOne("member G|A");
+        lines = lines.filter(QRegularExpression("^(?!(insert|property) widget)(?!.*\\bold$)"));
+        *seen << name + lines.join(';');
+    }
+
+    static kite::ContentFactory factory(const QString& name, QStringList* seen) {
+        const auto witness = std::make_shared<Witness>(name, seen);
+        return [witness] { return nullptr; };
+    }
+
+    QString name;
+    QStringList* seen;
+};
+
 } // namespace
 
 // What each operation writes into the host's registry, and that it writes nothing else.
@@ -83,6 +104,7 @@ private slots:
     void createDataMakesNoGroup();
     void createDataLeavesTheDefaultTextEmpty();
     void createDataTwiceReplacesTextsAndAppendsTheTypeAgain();
+    void createDataWritesInItsOrder();
     void createDataOverASinglePieceReplacesIt();
     void aPieceAfterCreateDataReplacesItsOwn();
     void theNameGoesIntoThePatternAsItIs_data();
@@ -112,6 +134,9 @@ void TestVexManager::anOperationWritesOneThing_data() {
         },
         {"member G|A", "member G|B"});
     row("a type into a new group", [](VexManager& m) { m.createTypeToGroup("G", "A"); }, {"member G|A"});
+    row("no types into a new group", [](VexManager& m) { m.createTypeToGroup("G", QStringList()); },
+        {"no member of G"});
+    row("no types into a group that is there", [](VexManager& m) { m.createTypeToGroup("Others", QStringList()); }, {});
     row("types into a group that is there",
         [](VexManager& m) {
             m.createTypeToGroup("Others", {"A", "B"});
@@ -213,6 +238,21 @@ void TestVexManager::createDataTwiceReplacesTextsAndAppendsTheTypeAgain() {
                           "default MyMove|", "description MyMove|moves fast", "insert widget MyMove",
                           "pattern c_MyMove|^\\s*MyMove\\s*(?://.*)?$", "property widget MyMove",
                           "skeleton s_MyMove|MyMove"}));
+}
+
+void TestVexManager::createDataWritesInItsOrder() {
+    QStringList seen;
+    VexManager manager(nullptr);
+    manager.createData("G", "A", "old", Witness::factory("insert:", &seen), Witness::factory("property:", &seen));
+    manager.createInsDefault("A", "old");
+    manager.createPattern("A", "old");
+    manager.createSkeleton("A", "old");
+    const QStringList before = registryLines();
+    manager.createData("G", "A", "new", noContent, noContent);
+    QCOMPARE(seen.count(), 2);
+    const QString texts = "type A;default A|;description A|new;pattern c_A|^\\s*A\\s*(?://.*)?$;skeleton s_A|A";
+    QCOMPARE(seen, QStringList({"insert:" + texts, "property:" + texts}));
+    QCOMPARE(changes(before, registryLines()).filter("member "), QStringList{"member G|A"});
 }
 
 void TestVexManager::createDataOverASinglePieceReplacesIt() {

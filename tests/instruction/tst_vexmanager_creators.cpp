@@ -81,6 +81,10 @@ private slots:
     void whatAFactoryThrowsReachesTheHost();
     void contentHandedOutTwiceGoesOverToTheLaterWidget_data() { places(); }
     void contentHandedOutTwiceGoesOverToTheLaterWidget();
+    void aFactoryMayRegisterItsTypeAnewWhileItIsCalled_data() { places(); }
+    void aFactoryMayRegisterItsTypeAnewWhileItIsCalled();
+    void aFactoryWithAStateStartsAnewOnEveryCall_data() { places(); }
+    void aFactoryWithAStateStartsAnewOnEveryCall();
     void createDataKeepsTheTwoFactoriesApart();
     void createDataTakesEmptyFactories();
 
@@ -203,6 +207,37 @@ void TestCreators::contentHandedOutTwiceGoesOverToTheLaterWidget() {
     QVERIFY(only.isNull());
     QVERIFY(first->CheckInsert());
     first->FillWith("A");
+}
+
+// The host may call the creator where it stands in the registry.
+void TestCreators::aFactoryMayRegisterItsTypeAnewWhileItIsCalled() {
+    QFETCH(Place, place);
+    auto token = std::make_shared<int>(0);
+    const std::weak_ptr<int> held = token;
+    bool isHeldAfterwards = false;
+    place.enter("A", [place, token = std::move(token), &held, &isHeldAfterwards] {
+        bool* const told = &isHeldAfterwards;
+        const std::weak_ptr<int>* const watched = &held;
+        place.enter("A", makes("later"));
+        *told = !watched->expired();
+        return new Named(QStringLiteral("first"));
+    });
+    const std::unique_ptr<QWidget> widget((helm::VexManager::getVexManager()->*place.creators)["A"](nullptr));
+    QVERIFY(isHeldAfterwards);
+    QVERIFY(widget->findChild<QWidget*>("first"));
+    QVERIFY(held.expired());
+    QCOMPARE(place.made("A"), QString("later"));
+}
+
+void TestCreators::aFactoryWithAStateStartsAnewOnEveryCall() {
+    QFETCH(Place, place);
+    place.enter("A", [calls = 0]() mutable { return new Named(QString::number(++calls)); });
+    auto& creators = helm::VexManager::getVexManager()->*place.creators;
+    for (int i = 0; i < 2; ++i) {
+        const std::unique_ptr<QWidget> widget(creators["A"](nullptr));
+        QVERIFY(widget->findChild<QWidget*>("1"));
+    }
+    QCOMPARE(place.made("A"), QString("1"));
 }
 
 void TestCreators::createDataKeepsTheTwoFactoriesApart() {

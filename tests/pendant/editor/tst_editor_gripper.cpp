@@ -9,6 +9,7 @@ class TestEditorGripper : public EditorTest {
 
 private slots:
     void aLineIsInsertedAsTheWidgetSaysIt();
+    void aLineIsFilledInWithTapsAndKeys();
     void aLineThatTheWidgetRefusesIsNotInsertedAndThePersonIsTold();
     void theLineOfTheCursorIsShownByItsWidget();
     void anEditedLineTakesThePlaceOfTheOld();
@@ -40,6 +41,29 @@ void TestEditorGripper::aLineIsInsertedAsTheWidgetSaysIt() {
     QCOMPARE(editor.row(), 0);
     QCOMPARE(editor.text("editorPlace"), QString("Line 1"));
     QCOMPARE(problems(), QStringList());
+}
+
+void TestEditorGripper::aLineIsFilledInWithTapsAndKeys() {
+    const Editor editor;
+    QVERIFY(editor.pick("CloseGripper"));
+    auto* value = editor.field<QDoubleSpinBox>("value")->findChild<QLineEdit*>();
+    QTest::mouseClick(value, Qt::LeftButton);
+    QTest::keyClicks(value->window()->focusWidget(), "40");
+    QVERIFY(editor.press("acceptLine"));
+    QCOMPARE(editor.lines(), QStringList{"CloseGripper force=40N wait=200ms"});
+    // The widget of the line that came.
+    value = editor.field<QDoubleSpinBox>("value")->findChild<QLineEdit*>();
+    QTest::mouseClick(value, Qt::LeftButton);
+    QTest::keyClick(value->window()->focusWidget(), Qt::Key_End);
+    for (int i = 0; i < QString("40.0").size(); ++i)
+        QTest::keyClick(value->window()->focusWidget(), Qt::Key_Backspace);
+    QVERIFY(editor.press("acceptLine"));
+    QCOMPARE(editor.lines(), QStringList{"CloseGripper force=40N wait=200ms"});
+    QCOMPARE(editor.notice(), QString("“CloseGripper” refuses this line."));
+    QTest::mouseClick(value, Qt::LeftButton);
+    QTest::keyClicks(value->window()->focusWidget(), "7.5");
+    QVERIFY(editor.press("acceptLine"));
+    QCOMPARE(editor.lines(), QStringList{"CloseGripper force=7.5N wait=200ms"});
 }
 
 void TestEditorGripper::aLineThatTheWidgetRefusesIsNotInsertedAndThePersonIsTold() {
