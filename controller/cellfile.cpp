@@ -2,6 +2,9 @@
 
 #include "controller/cell/cellreader.h"
 #include "controller/cell/repeatedname.h"
+#include "controller/io/motiondata.h"
+#include "controller/io/registers.h"
+#include "controller/io/signaltable.h"
 #include "controller/project/project.h"
 #include "controller/robot/robot.h"
 
@@ -80,7 +83,12 @@ void take(const Cell& cell, VirtualController* controller) {
         controller->requests()->onRequest(entry.key(), answering(entry.value()));
     if (!cell.rules.isEmpty())
         controller->pluginCommands()->setHandler(following(asSent(cell.rules)));
+    controller->setHost(cell.host);
     controller->robot()->setModel(cell.robot);
+    controller->pathCheck()->setRules(cell.pathChecks);
+    controller->ioSignals()->start(cell.ioSignals);
+    controller->registers()->start(cell.registers);
+    controller->motionData()->start(cell.motionNames);
     controller->project()->start(cell.project);
     controller->project()->refuseToRemove(cell.refusedRemovals);
     controller->persistentVariables()->list(cell.persistent);

@@ -65,4 +65,8 @@ ChangingValues::Course counter(int start, qint64 everyMs) {
     };
 }
 
+ChangingValues::Course pulse(qint64 onMs, qint64 periodMs) {
+    return [=](qint64 nowMs) { return QVariant(nowMs % periodMs >= periodMs - onMs); };
+}
+
 } // namespace controller

@@ -47,5 +47,7 @@ private:
 ChangingValues::Course wave(double min, double max, qint64 periodMs);
 /// From `start` on one more every `everyMs`, up to the greatest int.
 ChangingValues::Course counter(int start, qint64 everyMs);
+/// False, and true for the last `onMs` of every `periodMs`.
+ChangingValues::Course pulse(qint64 onMs, qint64 periodMs);
 
 } // namespace controller

@@ -4,6 +4,7 @@
 #include "controller/changingvalues.h"
 #include "controller/clock.h"
 #include "controller/content.h"
+#include "controller/hostinfo.h"
 #include "controller/plugincommands.h"
 #include "controller/recenttexts.h"
 #include "controller/requesttable.h"
@@ -15,13 +16,17 @@
 
 namespace controller {
 
+class MotionData;
+class PathCheck;
 class PersistentVariables;
 class Project;
+class Registers;
 class Robot;
+class SignalTable;
 
 /// A controller with a robot and a project: it answers what comes over the bus and the controller link from its tables.
 /// What they do not hold it does not know. Of its own are the keys "controller.uptime", which counts the seconds of
-/// its clock, and those of the robot, the project and the persistent variables.
+/// its clock, and those of the robot, the project, the persistent variables, the signals and the registers.
 ///
 /// It lives on one thread, the user-interface thread of the pendant.
 class VirtualController : public QObject {
@@ -37,8 +42,16 @@ public:
     RequestTable* requests() { return &m_requests; }
     PluginCommands* pluginCommands() { return &m_pluginCommands; }
     Robot* robot();
+    PathCheck* pathCheck();
     Project* project();
     PersistentVariables* persistentVariables();
+    SignalTable* ioSignals();
+    Registers* registers();
+    MotionData* motionData();
+
+    /// What the pendant is told of itself, under the key "host.info".
+    const HostInfo& host() const { return m_host; }
+    void setHost(const HostInfo& host);
 
     /// Keeps the values of persistent variables in the file at `path`, which brings back those that it holds. To be
     /// called when the cell is loaded.
@@ -77,6 +90,7 @@ private:
     ChangingValues m_changing{&m_clock, &m_bus};
     RequestTable m_requests;
     PluginCommands m_pluginCommands;
+    HostInfo m_host;
     std::unique_ptr<Machine> m_machine;
     const QObject* m_asker = nullptr;
     RecentTexts m_handedOut;

@@ -1,8 +1,13 @@
 #pragma once
 
 #include "controller/changingvalues.h"
+#include "controller/hostinfo.h"
+#include "controller/io/iosignal.h"
+#include "controller/io/motiondata.h"
+#include "controller/io/registers.h"
 #include "controller/project/persistentvariables.h"
 #include "controller/project/projectstart.h"
+#include "controller/robot/pathcheck.h"
 #include "controller/robot/robotmodel.h"
 
 #include <QJsonArray>
@@ -28,7 +33,13 @@ struct Cell {
     QMap<QString, QJsonValue> requests; ///< answers of requests
     QVector<Rule> rules;                ///< the first that fits holds
 
+    QVector<IoSignal> ioSignals;
+    QVector<Register> registers;
+    MotionNames motionNames;
+
+    HostInfo host;
     RobotModel robot;
+    QVector<PathCheckRule> pathChecks; ///< the first that fits holds
     ProjectStart project;
     QVector<PersistentVariable> persistent;
     QStringList refusedRemovals; ///< names of variables

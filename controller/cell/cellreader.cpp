@@ -1,23 +1,40 @@
 #include "controller/cell/cellreader.h"
 
 #include "controller/cell/coursereader.h"
+#include "controller/cell/datareader.h"
+#include "controller/cell/hostreader.h"
 #include "controller/cell/projectreader.h"
 #include "controller/cell/robotreader.h"
+#include "controller/cell/signalreader.h"
+
+#include <algorithm>
+#include <iterator>
 
 namespace controller {
 
 namespace {
 
 // Those of the controller itself begin so.
-const char* const ownBeginnings[] = {"controller.", "robot.", "mirror.", "monitor."};
-const char ownCommand[] = "project.variable";
+const char* const ownBeginnings[] = {"controller.", "robot.",  "mirror.", "monitor.",
+                                     "register.",   "motion.", "move.",   "host."};
+const char* const ownKeys[] = {"project.variable",
+                               "project.remove_task",
+                               "project.autoload",
+                               "backup.backup_list",
+                               "project.overview.set_autoload",
+                               "proiect.overview.set_autoload",
+                               "io.signals",
+                               "io.set",
+                               "io.force",
+                               "io.release"};
 
 bool isOwn(const QString& key) {
     for (const char* beginning : ownBeginnings) {
         if (key.startsWith(QLatin1String(beginning)))
             return true;
     }
-    return key == QLatin1String(ownCommand);
+    return std::any_of(std::begin(ownKeys), std::end(ownKeys),
+                       [&key](const char* own) { return key == QLatin1String(own); });
 }
 
 void checkKey(const CellValue& json, const QString& key) {
@@ -32,17 +49,22 @@ void checkKey(const CellValue& json, const QString& key) {
 bool CellReader::read(const QJsonObject& json) {
     const CellValue file(json, QString(), &m_error);
     file.mayHave({"bus", "changing", "commands", "requests", "pluginCommands", "robot", "tools", "wobjs", "project",
-                  "pers", "refuse"});
+                  "pers", "refuse", "signals", "registers", "speeds", "zones", "host", "pathCheck"});
     readValues(file["bus"]);
     readChanging(file["changing"]);
     readAnswers(file["commands"], &m_cell.commands);
     readAnswers(file["requests"], &m_cell.requests);
     readRules(file["pluginCommands"]);
+    m_cell.host = hostIn(file["host"]);
     m_cell.robot = RobotReader::read(file);
+    m_cell.pathChecks = pathChecksIn(file["pathCheck"]);
     if (m_error.isEmpty()) // points are places of the robot
         m_cell.project = ProjectReader(m_cell.robot).read(file["project"]);
     m_cell.persistent = ProjectReader::readPersistent(file["pers"]);
     readRefusals(file["refuse"]);
+    m_cell.ioSignals = signalsIn(file["signals"]);
+    m_cell.registers = registersIn(file["registers"]);
+    m_cell.motionNames = motionNamesIn(file);
     return m_error.isEmpty();
 }
 

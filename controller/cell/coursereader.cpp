@@ -37,6 +37,15 @@ ChangingValues::Course countIn(const CellValue& json) {
     return counter(json["from"].json().toInt(), msIn(json["everyS"], leastCountS));
 }
 
+ChangingValues::Course pulseIn(const CellValue& json) {
+    json.mayHave({"onS", "periodS"});
+    const qint64 onMs = msIn(json["onS"], leastCountS);
+    const qint64 periodMs = msIn(json["periodS"], leastCountS);
+    if (onMs >= periodMs)
+        json["onS"].fail(QStringLiteral("It must be less than \"periodS\"."));
+    return pulse(onMs, periodMs);
+}
+
 } // namespace
 
 ChangingValues::Course courseIn(const CellValue& json) {
@@ -45,7 +54,9 @@ ChangingValues::Course courseIn(const CellValue& json) {
         return waveIn(json["wave"]);
     if (names == QStringList{"count"})
         return countIn(json["count"]);
-    json.fail(QStringLiteral("Write {\"wave\": {...}} or {\"count\": {...}}."));
+    if (names == QStringList{"pulse"})
+        return pulseIn(json["pulse"]);
+    json.fail(QStringLiteral("Write {\"wave\": {...}}, {\"count\": {...}} or {\"pulse\": {...}}."));
     return nullptr;
 }
 

@@ -35,7 +35,8 @@ Axis axisIn(const CellValue& json, bool isLinear) {
               json["max"].numberFrom(-most, most),
               json["speed"].numberFrom(0.001, most),
               json["start"].number(0),
-              isLinear};
+              isLinear,
+              json["acceleration"].exists() ? json["acceleration"].numberFrom(0.001, most) : 0};
     if (axis.minimum >= axis.maximum)
         json["min"].fail(QStringLiteral("It must be less than \"max\"."));
     if (axis.start < axis.minimum || axis.start > axis.maximum)
@@ -72,7 +73,7 @@ RobotModel RobotReader::read(const CellValue& file) {
 }
 
 void RobotReader::readRobot(const CellValue& json) {
-    json.mayHave({"arm", "axes", "external", "foot", "jog", "tool", "wobj"});
+    json.mayHave({"arm", "axes", "external", "foot", "jog", "linear", "tool", "wobj"});
     if (json["arm"].exists())
         readLengths(json["arm"]);
     if (json["axes"].exists())
@@ -83,6 +84,8 @@ void RobotReader::readRobot(const CellValue& json) {
         m_model.foot = mountIn(json["foot"]);
     if (json["jog"].exists())
         readJogSpeeds(json["jog"]);
+    if (json["linear"].exists())
+        readLinearLimits(json["linear"]);
 }
 
 void RobotReader::readLengths(const CellValue& json) {
@@ -98,7 +101,7 @@ void RobotReader::readLengths(const CellValue& json) {
 void RobotReader::readJoints(const CellValue& json) {
     m_model.joints.clear();
     for (const CellValue& item : json.items()) {
-        item.mayHave({"name", "min", "max", "speed", "start"});
+        item.mayHave({"name", "min", "max", "speed", "start", "acceleration"});
         const Axis axis = axisIn(item, false);
         checkName(item["name"], axis.name);
         m_model.joints << axis;
@@ -138,21 +141,34 @@ void RobotReader::readJogSpeeds(const CellValue& json) {
         m_model.jog.percentOfAxis = json["percentOfAxis"].numberFrom(0.001, 100);
 }
 
+void RobotReader::readLinearLimits(const CellValue& json) {
+    json.mayHave({"mmPerS", "mmPerS2", "degPerS", "degPerS2"});
+    const auto read = [&json](const char* name, double* limit) {
+        if (json[name].exists())
+            *limit = json[name].numberFrom(0.001, mostMm);
+    };
+    read("mmPerS", &m_model.linear.mmPerS);
+    read("mmPerS2", &m_model.linear.mmPerS2);
+    read("degPerS", &m_model.linear.degPerS);
+    read("degPerS2", &m_model.linear.degPerS2);
+}
+
 void RobotReader::readTools(const CellValue& json) {
     for (const QString& name : json.names()) {
-        if (name.isEmpty() || name == flangeTool())
-            json[name].fail(QStringLiteral("Every robot has a tool \"%1\". Choose another name.").arg(flangeTool()));
-        json[name].mayHave(poseNames());
+        if (name.isEmpty() || everyonesTools().contains(name))
+            json[name].fail(
+                QStringLiteral("Every robot has tools %1. Choose another name.").arg(quoted(everyonesTools())));
+        json[name].mayHave(poseNames() + QStringList{"scope"});
         m_model.tools.insert(name, poseIn(json[name]));
     }
 }
 
 void RobotReader::readWobjs(const CellValue& json) {
     for (const QString& name : json.names()) {
-        if (name.isEmpty() || name == worldWobj())
+        if (name.isEmpty() || everyonesWobjs().contains(name))
             json[name].fail(
-                QStringLiteral("Every cell has a work object \"%1\". Choose another name.").arg(worldWobj()));
-        m_model.wobjs.insert(name, mountIn(json[name]));
+                QStringLiteral("Every cell has work objects %1. Choose another name.").arg(quoted(everyonesWobjs())));
+        m_model.wobjs.insert(name, mountIn(json[name], {"scope"}));
     }
 }
 
@@ -163,8 +179,8 @@ void RobotReader::readSelection(const CellValue& json) {
     mustBeThere(json["wobj"], m_model.wobj, m_model.wobjs.keys());
 }
 
-Mount RobotReader::mountIn(const CellValue& json) const {
-    json.mayHave(poseNames() + QStringList{"on"});
+Mount RobotReader::mountIn(const CellValue& json, const QStringList& besides) const {
+    json.mayHave(poseNames() + QStringList{"on"} + besides);
     const int on = json["on"].exists() ? externalNamed(json["on"]) : int(Mount::world);
     return {poseIn(json), on};
 }

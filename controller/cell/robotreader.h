@@ -17,10 +17,11 @@ private:
     void readExternals(const CellValue& json);
     void readExternal(const CellValue& json);
     void readJogSpeeds(const CellValue& json);
+    void readLinearLimits(const CellValue& json);
     void readTools(const CellValue& json);
     void readWobjs(const CellValue& json);
     void readSelection(const CellValue& json);
-    Mount mountIn(const CellValue& json) const;
+    Mount mountIn(const CellValue& json, const QStringList& besides = {}) const;
     int externalNamed(const CellValue& json) const;
     void checkName(const CellValue& json, const QString& name) const;
 

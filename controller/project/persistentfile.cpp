@@ -2,11 +2,11 @@
 
 #include "controller/project/persistentvariables.h"
 #include "controller/project/project.h"
+#include "controller/project/wholefile.h"
 
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QSaveFile>
 
 using brisk::standin::contentOf;
 using brisk::standin::jsonOf;
@@ -17,6 +17,10 @@ namespace {
 
 QString recordsMember() {
     return QStringLiteral("records");
+}
+
+QString projectMember() {
+    return QStringLiteral("project");
 }
 
 QString listedMember() {
@@ -75,7 +79,9 @@ bool PersistentFile::keepIn(const QString& path, QString* error) {
 }
 
 void PersistentFile::restore(const QJsonObject& json) {
-    for (const QJsonValue& record : json.value(recordsMember()).toArray())
+    const QString project = json.value(projectMember()).toString(m_project->reference());
+    const bool areOfThis = project == m_project->reference();
+    for (const QJsonValue& record : areOfThis ? json.value(recordsMember()).toArray() : QJsonArray())
         restoreRecord(record.toObject());
     const QJsonObject listed = json.value(listedMember()).toObject();
     for (auto entry = listed.constBegin(); entry != listed.constEnd(); ++entry) {
@@ -117,16 +123,13 @@ QJsonObject PersistentFile::present() const {
         if (m_variables->isListed(name))
             listed.insert(name, QJsonObject{{"type", variable.type}, {"value", variable.value}});
     }
-    return {{recordsMember(), records}, {listedMember(), listed}};
+    return {{projectMember(), m_project->reference()}, {recordsMember(), records}, {listedMember(), listed}};
 }
 
 void PersistentFile::save() {
-    const QByteArray text = QJsonDocument(present()).toJson();
-    QSaveFile file(m_path);
-    const bool isSaved = file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit();
-    if (!isSaved)
-        emit failed(
-            QStringLiteral("The persistent variables cannot be written to %1: %2.").arg(m_path, file.errorString()));
+    const QString why = writeWhole(m_path, QJsonDocument(present()).toJson());
+    if (!why.isEmpty())
+        emit failed(QStringLiteral("The persistent variables cannot be written to %1: %2.").arg(m_path, why));
 }
 
 } // namespace controller

@@ -11,7 +11,7 @@ class PersistentVariables;
 class Project;
 
 /// Keeps the values of persistent variables in a file. Of the project's it keeps the whole records, so that one which a
-/// plugin added is there again.
+/// plugin added is there again; they go back into the project that they are of, no other.
 class PersistentFile : public QObject {
     Q_OBJECT
 

@@ -61,9 +61,21 @@ QStringList nodesWithout(const RecordList& list, const Content& sent) {
 
 } // namespace
 
-Project::Project(QObject* parent) : QObject(parent), m_start(emptyProject()) {}
+Project::Project(QObject* parent) : QObject(parent), m_cells(emptyProject()), m_start(m_cells) {
+    setRobot(QString());
+}
+
+void Project::setRobot(const QString& id) {
+    m_robot = id.isEmpty() ? QStringLiteral("LOCALHOST") : id;
+}
 
 void Project::start(const ProjectStart& start) {
+    m_cells = start;
+    open(start);
+}
+
+// What was deleted of another one is no matter of this.
+void Project::open(const ProjectStart& start) {
     m_start = start;
     m_deleted = Deleted();
     put(nullptr, nullptr, true);
@@ -78,7 +90,7 @@ void Project::refuseToRemove(const QStringList& names) {
 
 Content Project::content() const {
     const Content content = copied(nullptr);
-    set(content, "cur_project", m_start.name);
+    set(content, "cur_project", reference());
     set(content, "cur_func", m_start.function);
     set(content, "cur_task", m_start.task);
     copyTo(content, "var", variablesOf(m_start.variableTemplate, m_variables));

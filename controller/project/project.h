@@ -23,7 +23,21 @@ public:
 
     explicit Project(QObject* parent = nullptr);
 
+    /// Begins as the cell says.
     void start(const ProjectStart& start);
+    const ProjectStart& cellsStart() const { return m_cells; }
+    /// Becomes another project.
+    void open(const ProjectStart& start);
+    /// What it began as; its records are those of then.
+    const ProjectStart& startedAs() const { return m_start; }
+
+    /// Whose projects these are: the robot's identifier; an empty one is written "LOCALHOST".
+    void setRobot(const QString& id);
+    const QString& robot() const { return m_robot; }
+    /// "ROBOT/NAME", by which the pendant calls a project.
+    QString referenceOf(const QString& name) const { return m_robot + QLatin1Char('/') + name; }
+    QString reference() const { return referenceOf(m_start.name); }
+
     /// Variables whose removal is refused.
     void refuseToRemove(const QStringList& names);
 
@@ -54,6 +68,8 @@ signals:
 private:
     void putVariable(const QString& node, const Content& record);
 
+    QString m_robot;
+    ProjectStart m_cells;
     ProjectStart m_start;
     RecordList m_variables;
     RecordList m_points;

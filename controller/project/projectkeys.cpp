@@ -62,6 +62,10 @@ Content ProjectKeys::put(const Content& sent) {
     const QString odd = oddName(variables) + oddName(points);
     if (!odd.isEmpty())
         return m_bus->refused(QStringLiteral("The record \"%1\" has no name of a list's item, as \"#0\".").arg(odd));
+    const QString project = textAt(sent, QStringLiteral("project"));
+    if (!project.isEmpty() && project != m_project->reference())
+        return m_bus->refused(
+            QStringLiteral("The records of the project %1 were not taken: it is not open.").arg(project));
     const Content replace = childOf(sent, QStringLiteral("replace"));
     m_project->put(variables, points, replace && replace->getBool());
     return nullptr;

@@ -2,16 +2,25 @@
 
 #include <QSettings>
 
+#include <memory>
+
 namespace pendant {
 
 namespace {
 
+// The host reads the file too, as UTF-8: the workspace may have any letters in its path.
+std::unique_ptr<QSettings> opened() {
+    auto file = std::make_unique<QSettings>(QStringLiteral("settings.ini"), QSettings::IniFormat);
+    file->setIniCodec("UTF-8");
+    return file;
+}
+
 QString read(const QString& key, const QString& fallback) {
-    return QSettings(QStringLiteral("settings.ini"), QSettings::IniFormat).value(key, fallback).toString();
+    return opened()->value(key, fallback).toString();
 }
 
 void write(const QString& key, const QString& value) {
-    QSettings(QStringLiteral("settings.ini"), QSettings::IniFormat).setValue(key, value);
+    opened()->setValue(key, value);
 }
 
 } // namespace

@@ -125,11 +125,7 @@ QVariant RecordsModel::data(const QModelIndex& index, int role) const {
 }
 
 QVariant RecordsModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation == Qt::Vertical)
-        return QVariant();
-    if (role == Qt::TextAlignmentRole)
-        return int(Qt::AlignLeft | Qt::AlignVCenter);
-    return role == Qt::DisplayRole ? heading(section) : QVariant();
+    return orientation == Qt::Horizontal && role == Qt::DisplayRole ? heading(section) : QVariant();
 }
 
 } // namespace pendant

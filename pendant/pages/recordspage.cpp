@@ -3,9 +3,7 @@
 #include "emptystate.h"
 #include "recordsmodel.h"
 #include "rowdelegate.h"
-
-#include <QHeaderView>
-#include <QScroller>
+#include "rowtable.h"
 
 namespace pendant {
 
@@ -35,19 +33,7 @@ RecordsPage::RecordsPage(const QString& name, RecordsModel* model, const Theme& 
 void RecordsPage::makeTable() {
     m_table->setModel(m_filter);
     m_table->setItemDelegate(m_delegate);
-    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_table->setShowGrid(false);
-    m_table->setWordWrap(false);
-    m_table->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    m_table->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
-    m_table->verticalHeader()->hide();
-    // Rows of one height: the view would measure each of ten thousand otherwise.
-    m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    m_table->horizontalHeader()->setHighlightSections(false);
-    m_table->horizontalHeader()->setStretchLastSection(true);
-    QScroller::grabGesture(m_table->viewport(), QScroller::LeftMouseButtonGesture);
+    setUpRowTable(m_table);
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this, &RecordsPage::selectionChanged);
 }
 

@@ -45,6 +45,10 @@ ProgramPlace ProgramPlace::ofTree() {
             m(projectkeys::function())->getString()};
 }
 
+QString ProgramPlace::projectFolder() const {
+    return isValid() ? QDir::cleanPath(m_file + QStringLiteral("/../..")) : QString();
+}
+
 QString ProgramPlace::unsavedFile() const {
     return isValid() ? m_file + QStringLiteral(".unsaved") : QString();
 }

@@ -29,6 +29,8 @@ public:
     QString name() const { return m_name; }
     /// The absolute path; empty when it is not valid.
     QString file() const { return m_file; }
+    /// The folder of the project; empty when it is not valid.
+    QString projectFolder() const;
     /// Where its unsaved changes are kept; empty when it is not valid.
     QString unsavedFile() const;
 

@@ -59,10 +59,13 @@ void ProgramStore::follow() {
     if (m_isOpen && place == m_place)
         return;
     QString error;
-    if (keepUnsaved(&error))
+    const bool isKept = keepUnsaved(&error);
+    if (!isKept)
+        reportOnce(error);
+    // Of a project that was deleted nothing is left to go back to.
+    if (isKept || isProjectGone())
         return open(place);
     m_isHeld = true;
-    reportOnce(error);
     m_keepTimer.start();
 }
 
@@ -74,6 +77,7 @@ void ProgramStore::open(const ProgramPlace& place) {
     if (!isOpen && !m_isOpen && place == m_place && problem == m_problem)
         return;
     m_place = place;
+    m_hadProject = QFileInfo(place.projectFolder()).isDir();
     m_problem = problem;
     m_isOpen = isOpen;
     m_reported.clear();
@@ -116,7 +120,7 @@ bool ProgramStore::save(QString* error) {
         *error = m_problem;
         return false;
     }
-    if (!ProgramFile::save(m_place.file(), m_program.lines(), error))
+    if (!write(m_place.file(), error))
         return false;
     m_program.setSaved();
     keepNow();
@@ -128,9 +132,20 @@ bool ProgramStore::keepUnsaved(QString* error) {
     if (!m_isOpen)
         return true;
     if (m_program.isModified())
-        return ProgramFile::save(m_place.unsavedFile(), m_program.lines(), error);
+        return write(m_place.unsavedFile(), error);
     forgetUnsaved();
     return true;
+}
+
+bool ProgramStore::isProjectGone() const {
+    return m_hadProject && !QFileInfo(m_place.projectFolder()).isDir();
+}
+
+bool ProgramStore::write(const QString& path, QString* error) {
+    if (!isProjectGone())
+        return ProgramFile::save(path, m_program.lines(), error);
+    *error = tr("The program was not written: its project was deleted.");
+    return false;
 }
 
 void ProgramStore::keepSoon() {

@@ -18,7 +18,8 @@ namespace pendant {
 /// history: undo gives the saved program, save keeps them.
 ///
 /// When the changes cannot be kept, the program stays open although the tree names another one; it is left when
-/// they are kept, saved or undone. User-interface thread only.
+/// they are kept, saved or undone. A project that was deleted meanwhile is not made again: its program is left without
+/// them. User-interface thread only.
 class ProgramStore : public QObject {
     Q_OBJECT
 
@@ -64,6 +65,8 @@ private:
     void takeUpUnsaved();
     void setUnreadableAside(const QString& error);
     void setTakenUp(bool takenUp);
+    bool isProjectGone() const;
+    bool write(const QString& path, QString* error);
     void keepSoon();
     void keepNow();
     void forgetUnsaved();
@@ -78,6 +81,7 @@ private:
     QTimer m_keepTimer;
     QString m_reported;
     bool m_isOpen = false;
+    bool m_hadProject = false; // its folder was there when the program was opened
     bool m_hasTakenUp = false;
     bool m_isHeld = false; // the tree names another one, and this one cannot be kept
 };

@@ -1,18 +1,15 @@
 #include "projectmirror.h"
 
-#include "earlyrecords.h"
+#include "autoload.h"
 #include "links.h"
 #include "projectkeys.h"
+#include "workspace.h"
 
 #include "brisk/modulemanager.h"
 #include "brisk/relay.h"
 #include "helm/managerhelper.h"
 
-#include <QJsonArray>
-#include <QJsonObject>
 #include <QTimer>
-
-#include <algorithm>
 
 using brisk::ModuleObject;
 
@@ -26,18 +23,6 @@ const QString taskId = QStringLiteral("pendant.project");
 void sayHostVersion() {
     if (m(projectkeys::hostVersion())->getString().isEmpty())
         m(projectkeys::hostVersion())->setValue(nullptr, QStringLiteral("3.1.0"));
-}
-
-QJsonArray listIn(const QJsonObject& project, const QString& part) {
-    return project.value(part).toObject().value(QStringLiteral("_list")).toArray();
-}
-
-bool areInOrder(ModuleObject* list) {
-    const QList<ModuleObject*> records = list ? list->cmobjs() : QList<ModuleObject*>();
-    int next = 0;
-    return std::all_of(records.begin(), records.end(), [&](const ModuleObject* record) {
-        return record->name() == QLatin1Char('#') + QString::number(next++);
-    });
 }
 
 QStringList textsBelow(ModuleObject* node, const QString& child) {
@@ -55,6 +40,8 @@ ProjectMirror::ProjectMirror(QObject* parent)
       m_name(projectkeys::name()) {
     setObjectName(QStringLiteral("project"));
     sayHostVersion();
+    if (!Workspace::path().isEmpty())
+        m_autoload = std::make_unique<Autoload>();
     connect(&m_variables, &RecordList::changed, this, &ProjectMirror::pushSoon);
     connect(&m_points, &RecordList::changed, this, &ProjectMirror::pushSoon);
     connect(&m_name, &FollowedNode::renewed, this, &ProjectMirror::listen);
@@ -71,7 +58,7 @@ ProjectMirror::~ProjectMirror() {
 
 void ProjectMirror::listen(ModuleObject* name) {
     connect(name, &ModuleObject::changed, this,
-            [this](const QVariant&, const QVariant&, const QObject* sender) { askForReload(sender); });
+            [this](const QVariant&, const QVariant&, const QObject* sender) { followName(sender); });
 }
 
 void ProjectMirror::followLinks() {
@@ -81,29 +68,44 @@ void ProjectMirror::followLinks() {
     m_wereUp = up;
     if (!up)
         return;
-    if (m(projectkeys::name())->getString().isEmpty())
-        load();
-    else if (m_variables.hasChanges() || m_points.hasChanges())
+    const bool isLoaded = !m_autoload || !m_open.isEmpty();
+    if (m(projectkeys::name())->getString().isEmpty() || !isLoaded)
+        return load();
+    if (m_variables.hasChanges() || m_points.hasChanges())
         pushAll();
+    if (isAnotherNamed())
+        open();
 }
 
-void ProjectMirror::load() {
-    ModuleObject* reply = relay()->get(this, QStringLiteral("mirror.project"));
-    const QJsonObject project = reply ? reply->exportToJson(true).toObject() : QJsonObject();
-    if (!reply || !project.contains(QStringLiteral("cur_project")))
+void ProjectMirror::followName(const QObject* sender) {
+    if (sender == this)
         return;
-    const bool keepNames =
-        areInOrder(reply->r(QStringLiteral("var._list"))) && areInOrder(reply->r(QStringLiteral("point._list")));
-    const EarlyRecords variables(m_variables.node(), listIn(project, QStringLiteral("var")));
-    const EarlyRecords points(m_points.node(), listIn(project, QStringLiteral("point")));
-    m_variables.setTold(listIn(project, QStringLiteral("var")).size());
-    m_points.setTold(listIn(project, QStringLiteral("point")).size());
-    m(projectkeys::project())->importFromJson(this, project, true, true, false);
-    variables.putBack(m_variables.node());
-    points.putBack(m_points.node());
-    // In the tree the records are numbered anew.
-    if (!keepNames)
-        pushAll();
+    if (isAnotherNamed())
+        open();
+    else
+        askForReload();
+}
+
+void ProjectMirror::close() {
+    if (!m_autoload)
+        return;
+    if (!m_open.isEmpty() && links::areUp()) {
+        push();
+        relay()->execCommand(this, QStringLiteral("mirror.close"));
+    }
+    m_autoload.reset();
+    m_open.clear();
+}
+
+std::unique_ptr<ModuleObject> ProjectMirror::unsent() {
+    const bool isLoaded = !m_autoload || !m_open.isEmpty();
+    if (!isLoaded || (!m_variables.hasChanges() && !m_points.hasChanges()))
+        return nullptr;
+    auto all = std::make_unique<ModuleObject>(QStringLiteral("all"));
+    m_variables.takeAll(all->c(QStringLiteral("var"), true));
+    m_points.takeAll(all->c(QStringLiteral("point"), true));
+    all->set(nullptr, QStringLiteral("replace"), true);
+    return all;
 }
 
 void ProjectMirror::pushSoon() {
@@ -138,12 +140,12 @@ void ProjectMirror::send(ModuleObject* changes, bool replace) {
     if (records == 0 && !replace)
         return;
     changes->set(nullptr, QStringLiteral("replace"), replace);
+    if (m_autoload)
+        changes->set(nullptr, QStringLiteral("project"), m_open);
     relay()->command(this, QStringLiteral("mirror.put"), changes);
 }
 
-void ProjectMirror::askForReload(const QObject* sender) {
-    if (sender == this)
-        return;
+void ProjectMirror::askForReload() {
     m_variables.forgetArrivals();
     if (m_reloadQueued)
         return;

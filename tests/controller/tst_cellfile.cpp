@@ -1,5 +1,6 @@
 #include "controller/cellfile.h"
 #include "controller/project/persistentvariables.h"
+#include "controller/robot/pathcheck.h"
 
 #include "contents.h"
 
@@ -69,12 +70,30 @@ void mistakesOfSections() {
     QTest::newRow("request like an own one") << R"({"requests": {"controller.x": 1}})"
                                              << "requests[\"controller.x\"]: "
                                              << "another name";
+    QTest::newRow("key of the signals") << R"({"bus": {"io.signals": 1}})"
+                                        << "bus[\"io.signals\"]: "
+                                        << "another name";
+    QTest::newRow("command of the signals") << R"({"commands": {"io.force": 1}})"
+                                            << "commands[\"io.force\"]: "
+                                            << "another name";
+    QTest::newRow("key of the registers") << R"({"bus": {"register.list": 1}})"
+                                          << "bus[\"register.list\"]: "
+                                          << "another name";
+    QTest::newRow("key of motion") << R"({"bus": {"motion.data": 1}})"
+                                   << "bus[\"motion.data\"]: "
+                                   << "another name";
     QTest::newRow("key twice") << R"({"bus": {"a": 1}, "changing": {"a": {"count": {"everyS": 1}}}})"
                                << "changing.a: "
                                << "Remove one";
 }
 
 void mistakesOfCourses() {
+    QTest::newRow("always on") << R"({"changing": {"a": {"pulse": {"onS": 3, "periodS": 3}}}})"
+                               << "changing.a.pulse.onS: "
+                               << "less than \"periodS\"";
+    QTest::newRow("pulse misspelt") << R"({"changing": {"a": {"pulse": {"on": 3, "periodS": 3}}}})"
+                                    << "changing.a.pulse.on: "
+                                    << "\"onS\"";
     QTest::newRow("no course") << R"({"changing": {"a": 5}})"
                                << "changing.a: "
                                << "\"wave\"";
@@ -147,6 +166,18 @@ class TestCellFile : public QObject {
     Q_OBJECT
 
 private slots:
+    void theHostAndTheAnswersAboutPathsAreThoseOfTheCell() {
+        VirtualController controller;
+        QString error;
+        const QByteArray cell = R"({"host": {"version": "1.0"}, "pathCheck": [{"from": "a", "to": "b", "error": -5}]})";
+        QVERIFY2(CellFile::loadText(cell, "cell", &controller, &error), qPrintable(error));
+        QCOMPARE(controller.host().version, "1.0");
+        QCOMPARE(controller.pathCheck()->between("a", "b").code, -5);
+        QVERIFY2(CellFile::loadText("{}", "cell", &controller, &error), qPrintable(error));
+        QCOMPARE(controller.host().version, "3.1.0");
+        QVERIFY(controller.pathCheck()->between("a", "b").code != -5);
+    }
+
     void theDefaultCellIsGood() {
         VirtualController controller;
         QString error;
@@ -292,13 +323,13 @@ private slots:
         VirtualController controller;
         QVERIFY(take(controller, R"({"tools": {"torch": {}}, "pers": {"n": {"type": "int", "value": 1}},
             "project": {"name": "weld", "variables": [{"name": "a", "type": "int", "value": 1}]}})"));
-        QCOMPARE(text(controller.bus()->get("robot.frames", "tools")), QString("[\"flange\",\"torch\"]"));
-        QCOMPARE(text(controller.bus()->get("mirror.project", "cur_project")), QString("\"weld\""));
+        QCOMPARE(text(controller.bus()->get("robot.frames", "tools")), QString("[\"flange\",\"tool0\",\"torch\"]"));
+        QCOMPARE(text(controller.bus()->get("mirror.project", "cur_project")), QString("\"virtual/weld\""));
         QCOMPARE(text(controller.bus()->get("mirror.project", "var._list.#0.name")), QString("\"a\""));
         QVERIFY(controller.persistentVariables()->contains("n"));
         QVERIFY(take(controller, "{}"));
-        QCOMPARE(text(controller.bus()->get("robot.frames", "tools")), QString("[\"flange\"]"));
-        QCOMPARE(text(controller.bus()->get("mirror.project", "cur_project")), QString("\"project\""));
+        QCOMPARE(text(controller.bus()->get("robot.frames", "tools")), QString("[\"flange\",\"tool0\"]"));
+        QCOMPARE(text(controller.bus()->get("mirror.project", "cur_project")), QString("\"virtual/project\""));
         QCOMPARE(text(controller.bus()->get("mirror.project", "var._list")), QString("[]"));
         QVERIFY(!controller.persistentVariables()->contains("n"));
     }
@@ -310,8 +341,8 @@ private slots:
         QVERIFY(!CellFile::loadText(R"({"tools": {"grip": {}}, "project": {"name": "stack"},
             "pers": {"n": {"type": "int", "value": 1}}, "refuse": {"remove": [5]}})",
                                     "mine.json", &controller, &error));
-        QCOMPARE(text(controller.bus()->get("robot.frames", "tools")), QString("[\"flange\",\"torch\"]"));
-        QCOMPARE(text(controller.bus()->get("mirror.project", "cur_project")), QString("\"weld\""));
+        QCOMPARE(text(controller.bus()->get("robot.frames", "tools")), QString("[\"flange\",\"tool0\",\"torch\"]"));
+        QCOMPARE(text(controller.bus()->get("mirror.project", "cur_project")), QString("\"virtual/weld\""));
         QVERIFY(!controller.persistentVariables()->contains("n"));
     }
 

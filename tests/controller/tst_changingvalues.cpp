@@ -15,6 +15,14 @@ class TestChangingValues : public QObject {
     Q_OBJECT
 
 private slots:
+    void aPulseIsOnAtTheEndOfEachPeriod() {
+        const ChangingValues::Course course = controller::pulse(1000, 3000);
+        QStringList seen;
+        for (const qint64 nowMs : {0, 1999, 2000, 2999, 3000, 5000})
+            seen << course(nowMs).toString();
+        QCOMPARE(seen.join(' '), QString("false false true true false true"));
+    }
+
     void init() {
         clock.reset(new Clock);
         bus.reset(new BusTable);

@@ -3,6 +3,7 @@
 #include "controller/cellfile.h"
 #include "controller/project/persistentvariables.h"
 #include "controller/project/project.h"
+#include "controller/robot/pathcheck.h"
 #include "controller/robot/robot.h"
 
 #include <QDir>
@@ -62,6 +63,25 @@ private slots:
         QVERIFY(controller.requests()->knows("system.controller.get_params"));
     }
 
+    void everyCellHasSomethingOfEachKind_data() { everyCellIsGood_data(); }
+
+    void everyCellHasSomethingOfEachKind() {
+        QFETCH(QString, path);
+        VirtualController controller;
+        QVERIFY(load(&controller, path));
+        QSet<int> types;
+        const Content details = controller.bus()->get("io.signals", "signal_detail");
+        for (brisk::ModuleObject* detail : details->cmobjs())
+            types.insert(detail->c("signal_type")->getInt());
+        QCOMPARE(types, (QSet<int>{1, 2, 3, 4, 5, 6}));
+        QVERIFY(controller.bus()->get("register.list", "")->cmobjCount() >= 2);
+        const Content motion = controller.bus()->get("motion.data", "");
+        for (const char* list : {"tools.system", "tools.project", "wobjs.system", "wobjs.project", "wobjs.global"})
+            QVERIFY2(motion->r(list)->cmobjCount() > 0, list);
+        const QString variables = text(brisk::standin::contentOf(motion->c("variables")));
+        QVERIFY(variables.contains("\"speed\"") && variables.contains("\"zone\""));
+    }
+
     // Points that hang in the air or lie below what they stand on would teach nothing.
     void everyCartesianPointIsAboveItsWorkObject_data() { everyCellIsGood_data(); }
 
@@ -79,6 +99,18 @@ private slots:
             QVERIFY2(z->getDouble() > 10 && z->getDouble() < 500, qPrintable(point->c("name")->getString()));
         }
         QVERIFY(count >= 3);
+    }
+
+    void inTheDefaultCellTheToolCanGoFromEveryPointToEveryOther() {
+        VirtualController controller;
+        QVERIFY(load(&controller, CellFile::defaultPath()));
+        const QStringList names{"home", "above_part", "part", "conveyor"};
+        for (const QString& from : names) {
+            for (const QString& to : names) {
+                const controller::MoveError error = controller.pathCheck()->between(from, to);
+                QVERIFY2(!error, qPrintable(from + ", " + to + ": " + error.text));
+            }
+        }
     }
 
     void itsJoggingStartsFreely_data() { everyCellIsGood_data(); }
@@ -118,7 +150,7 @@ private slots:
         QFile page(CELL_FILE_PAGE);
         QVERIFY(page.open(QIODevice::ReadOnly));
         const QStringList parts = QString::fromUtf8(page.readAll()).split("```json\n");
-        QCOMPARE(parts.size(), 4);
+        QVERIFY(parts.size() >= 5);
         for (const QString& part : parts.mid(1)) {
             VirtualController controller;
             QString error;
@@ -135,7 +167,7 @@ private slots:
         QCOMPARE(text(controller.bus()->get("robot.axes", "")), standard);
         QCOMPARE(controller.robot()->model().lengths.upperArm, reach);
         QCOMPARE(text(controller.bus()->get("robot.frames", "")),
-                 R"({"tools":["camera","flange","gripper"],"wobjs":["conveyor","table","world"]})");
+                 R"({"tools":["camera","flange","gripper","tool0"],"wobjs":["conveyor","table","wobj0","world"]})");
         QCOMPARE(text(controller.bus()->get("robot.frame", "")), R"({"tool":"gripper","wobj":"table"})");
     }
 

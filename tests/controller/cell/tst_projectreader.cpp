@@ -136,8 +136,9 @@ private slots:
                                           << "project.points[0].external: Write a number for each of 0 axes.";
         QTest::newRow("odd property") << point(R"("property": "pose", "joints": [0, 0, 0, 0, 0, 0])")
                                       << "project.points[0].property: Write \"joint\" or \"cart\".";
-        QTest::newRow("no such tool") << point(R"("joints": [0, 0, 0, 0, 0, 0], "tool": "x")")
-                                      << "project.points[0]: The controller knows no tool \"x\". There are \"flange\".";
+        QTest::newRow("no such tool")
+            << point(R"("joints": [0, 0, 0, 0, 0, 0], "tool": "x")")
+            << "project.points[0]: The controller knows no tool \"x\". There are \"flange\", \"tool0\".";
         QTest::newRow("no type of a listed one")
             << QByteArray(R"({"pers": {"a": {"value": 1}}})") << "pers.a.type: Add a text.";
         QTest::newRow("another value of a listed one")

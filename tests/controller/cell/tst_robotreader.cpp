@@ -68,6 +68,22 @@ private slots:
         QCOMPARE(quick.jog.percentOfAxis, 50.0);
     }
 
+    void accelerationsAndLinearLimitsAreRead() {
+        const RobotModel standard = standardModel();
+        QCOMPARE(standard.linear.mmPerS, 2000.0);
+        // 150 degrees a second within 0.4 s
+        QCOMPARE(accelerationOf(standard.joints[0]), 375.0);
+        const RobotModel model = cellIn(robot(QByteArray(R"("linear": {"mmPerS": 500, "degPerS2": 90}, "axes": [)") +
+                                              sixAxes + R"(, {"name": "A7", "min": 0, "max": 10, "speed": 5,
+                                              "acceleration": 2.5}])"))
+                                     .robot;
+        QCOMPARE(model.linear.mmPerS, 500.0);
+        QCOMPARE(model.linear.mmPerS2, 4000.0);
+        QCOMPARE(model.linear.degPerS, 180.0);
+        QCOMPARE(model.linear.degPerS2, 90.0);
+        QCOMPARE(accelerationOf(model.joints[6]), 2.5);
+    }
+
     void jointsAreRead() {
         const RobotModel model = cellIn(robot(QByteArray("\"axes\": [") + sixAxes + ']')).robot;
         QCOMPARE(names(model), "A1 A2 A3 A4 A5 A6");
@@ -108,8 +124,8 @@ private slots:
         const RobotModel model = cellIn(R"({"robot": {"tool": "torch", "wobj": "table"},
             "tools": {"torch": {"x": 1, "b": -35}}, "wobjs": {"table": {"x": 2}}})")
                                      .robot;
-        QCOMPARE(model.tools.keys(), (QStringList{"flange", "torch"}));
-        QCOMPARE(model.wobjs.keys(), (QStringList{"table", "world"}));
+        QCOMPARE(model.tools.keys(), (QStringList{"flange", "tool0", "torch"}));
+        QCOMPARE(model.wobjs.keys(), (QStringList{"table", "wobj0", "world"}));
         QCOMPARE(model.tools.value("torch").b, -35.0);
         QCOMPARE(model.tool, "torch");
         QCOMPARE(model.wobj, "table");
@@ -121,7 +137,8 @@ private slots:
         QTest::newRow("no object") << QByteArray(R"({"robot": 5})") << "robot: Write an object: {\"name\": ...}.";
         QTest::newRow("unknown member") << robot("\"axis\": []")
                                         << "robot.axis: This is not known here. There may be "
-                                           "\"arm\", \"axes\", \"external\", \"foot\", \"jog\", \"tool\", \"wobj\".";
+                                           "\"arm\", \"axes\", \"external\", \"foot\", \"jog\", \"linear\", \"tool\", "
+                                           "\"wobj\".";
         QTest::newRow("a length is missing") << arm(R"("forearm": 5)") << "robot.arm.wrist: Add a number.";
         QTest::newRow("no length") << arm(R"("forearm": "5", "wrist": 6)") << "robot.arm.forearm: Write a number.";
         QTest::newRow("no forearm") << arm(R"("forearm": 0, "wrist": 6)")
@@ -183,16 +200,32 @@ private slots:
         QTest::newRow("turned too far") << QByteArray(R"({"tools": {"torch": {"a": 361}}})")
                                         << "tools.torch.a: It must be from -360 to 360 degrees.";
         QTest::newRow("tool of its own") << QByteArray(R"({"tools": {"flange": {}}})")
-                                         << "tools.flange: Every robot has a tool \"flange\". Choose another name.";
+                                         << "tools.flange: Every robot has tools \"tool0\", \"flange\". Choose another "
+                                            "name.";
         QTest::newRow("tool on an axis") << QByteArray(R"({"tools": {"t": {"on": "E1"}}})")
                                          << "tools.t.on: This is not known here. There may be \"x\", \"y\", \"z\", "
-                                            "\"a\", \"b\", \"c\".";
+                                            "\"a\", \"b\", \"c\", "
+                                            "\"scope\".";
         QTest::newRow("world") << QByteArray(R"({"wobjs": {"world": {}}})")
-                               << "wobjs.world: Every cell has a work object \"world\". Choose another name.";
-        QTest::newRow("no such tool") << QByteArray(R"({"robot": {"tool": "grip"}, "tools": {"gripper": {}}})")
-                                      << "robot.tool: There is no \"grip\". There are \"flange\", \"gripper\".";
+                               << "wobjs.world: Every cell has work objects \"wobj0\", \"world\". Choose another "
+                                  "name.";
+        QTest::newRow("no such tool")
+            << QByteArray(R"({"robot": {"tool": "grip"}, "tools": {"gripper": {}}})")
+            << "robot.tool: There is no \"grip\". There are \"flange\", \"gripper\", \"tool0\".";
         QTest::newRow("no such work object")
-            << robot(R"("wobj": "x")") << "robot.wobj: There is no \"x\". There are \"world\".";
+            << robot(R"("wobj": "x")") << "robot.wobj: There is no \"x\". There are \"wobj0\", \"world\".";
+        QTest::newRow("no acceleration")
+            << robot(R"("axes": [{"name": "A1", "min": 0, "max": 1, "speed": 1, "acceleration": 0}])")
+            << "robot.axes[0].acceleration: It must be from 0.001 to 100000.";
+        QTest::newRow("no move moves it") << external(R"("along": "x", "acceleration": 1)")
+                                          << "robot.external[0].acceleration: This is not known here. There may be "
+                                             "\"name\", \"min\", \"max\", \"speed\", \"start\", \"along\", "
+                                             "\"about\", \"place\".";
+        QTest::newRow("unknown limit") << robot(R"("linear": {"mmPerS3": 1})")
+                                       << "robot.linear.mmPerS3: This is not known here. There may be \"mmPerS\", "
+                                          "\"mmPerS2\", \"degPerS\", \"degPerS2\".";
+        QTest::newRow("no limit") << robot(R"("linear": {"degPerS2": 0})")
+                                  << "robot.linear.degPerS2: It must be from 0.001 to 100000.";
         QTest::newRow("too fast to jog") << robot(R"("jog": {"percentOfAxis": 101})")
                                          << "robot.jog.percentOfAxis: It must be from 0.001 to 100.";
     }

@@ -31,7 +31,7 @@ private slots:
     void anEmptyProjectHasTemplatesAndNoRecords() {
         const Content content = Project().content();
         QCOMPARE(childNames(content), "cur_project cur_func cur_task var point");
-        QCOMPARE(content->c("cur_project")->getString(), "project");
+        QCOMPARE(content->c("cur_project")->getString(), "LOCALHOST/project");
         QVERIFY(content->r("var.default.name"));
         QVERIFY(content->r("var.default.value.[0][0][0]"));
         QVERIFY(content->r("point.default.property"));

@@ -2,14 +2,18 @@
 
 #include "plugins/report.h"
 #include "plugins/thrown.h"
+#include "project/settings.h"
+#include "project/workspace.h"
 
 #include "brisk/modulemanager.h"
 #include "briskx/buttonpages.h"
 #include "briskx/navigationmodel.h"
+#include "helm/settingsfile.h"
 #include "kite/interfacemanager.h"
 #include "kite/pluginregister.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QTest>
 
 using helm::standin::Message;
@@ -48,6 +52,19 @@ const helm::PhysicalButton* keyOf(const ButtonPage& page, const QString& name) {
 
 } // namespace
 
+Pendant::Settings::Settings() {
+    const QString folder = QDir::currentPath();
+    helm::standin::readSettingsFrom(folder + QStringLiteral("/settings.ini"));
+    // A call that deletes ".." of a project's folder still deletes nothing outside.
+    pendant::settings::setText(QStringLiteral("workspace"), folder + QStringLiteral("/one/two/workspace"));
+    if (pendant::Workspace::path() != folder + QStringLiteral("/one/two/workspace"))
+        qFatal("The host does not read the settings of this pendant.");
+}
+
+Pendant::Settings::~Settings() {
+    helm::standin::readSettingsFrom(QString());
+}
+
 // What the controller refuses shows in the message list alone.
 Pendant::Pendant() : m_session(&m_guard, &m_loader) {
     QObject::connect(MessageList::instance(), &MessageList::added, &m_frame, [this](const Message& message) {
@@ -80,6 +97,7 @@ void Pendant::close() {
     m_closed = true;
     const QList<pendant::PluginInfo> plugins = m_session.plugins();
     m_session.stop();
+    m_projectMirror.close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     for (const pendant::PluginInfo& plugin : plugins)
         reportSubscriptionsOf(plugin.name);
@@ -179,6 +197,10 @@ QPixmap Pendant::grab() {
 
 QList<Message> Pendant::messages() const {
     return MessageList::instance()->messages();
+}
+
+QString Pendant::workspace() const {
+    return pendant::Workspace::path();
 }
 
 QStringList Pendant::logLines() const {

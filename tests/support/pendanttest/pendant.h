@@ -9,6 +9,7 @@
 #include "plugins/thrownhandler.h"
 #include "project/framemirror.h"
 #include "project/projectmirror.h"
+#include "state/statemirror.h"
 
 #include "helm/messagelist.h"
 #include "kite/pluginbase.h"
@@ -35,9 +36,10 @@ namespace pendanttest {
 ///     QCOMPARE(pendant.messages().last().text, "Started.");
 ///
 /// As on a pendant, the controller's project is loaded into the tree when the links come up, and the two are kept alike
-/// from then on.
+/// from then on; what the controller tells of itself is in the tree too.
 ///
-/// It runs in an empty folder of its own, which is the working directory meanwhile. A warning or an error line that the
+/// It runs in an empty folder of its own, which is the working directory meanwhile; the setting "workspace" leads to a
+/// folder three levels down in it, and projects on disk come and go there. A warning or an error line that the
 /// test has not named by expectError() fails the test, and so does a named one that does not come; the check is made by
 /// close() and by verify().
 ///
@@ -94,6 +96,8 @@ public:
     QList<helm::standin::Message> messages() const;
     /// The lines of the log files, oldest first.
     QStringList logLines() const;
+    /// The workspace's folder, an absolute path.
+    QString workspace() const;
     /// What the pendant called in the plugin, in order: "init", "render", ...
     QStringList calls(const QString& plugin) const;
 
@@ -111,13 +115,22 @@ public:
 private:
     Q_DISABLE_COPY(Pendant)
 
+    /// The settings of its own folder, with a workspace in them, for as long as it lives.
+    class Settings {
+    public:
+        Settings();
+        ~Settings();
+    };
+
     void reportSubscriptionsOf(const QString& plugin);
 
     WorkingFolder m_folder;
+    Settings m_settings;
     LogWatch m_log;
     pendant::ThrownHandler m_thrownHandler;
     pendant::ProjectMirror m_projectMirror;
     pendant::FrameMirror m_frameMirror;
+    pendant::StateMirror m_stateMirror;
     Frame m_frame;
     pendant::CallGuard m_guard;
     pendant::PluginLoader m_loader;
