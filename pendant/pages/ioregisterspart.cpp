@@ -3,10 +3,9 @@
 #include "ioregisterdetails.h"
 #include "ioregistersmodel.h"
 #include "rowdelegate.h"
+#include "rowtable.h"
 #include "state/registers.h"
 
-#include <QHeaderView>
-#include <QScroller>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <QVariant>
@@ -40,18 +39,8 @@ void IoRegistersPart::makeTable() {
     m_table->setObjectName(QStringLiteral("ioRegisters"));
     m_table->setModel(m_filter);
     m_table->setItemDelegate(m_delegate);
-    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_table->setShowGrid(false);
-    m_table->setWordWrap(false);
-    m_table->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    m_table->verticalHeader()->hide();
-    m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    m_table->horizontalHeader()->setHighlightSections(false);
-    m_table->horizontalHeader()->setStretchLastSection(true);
+    setUpRowTable(m_table);
     m_table->setColumnWidth(IoRegistersModel::Name, nameWidth);
-    QScroller::grabGesture(m_table->viewport(), QScroller::LeftMouseButtonGesture);
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
         showSelected();
         // The details have taken room from the table by then.

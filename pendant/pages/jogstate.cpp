@@ -28,7 +28,8 @@ void JogState::setTheme(const Theme& theme) {
 
 void JogState::setState(bool isMoving, const QString& stoppedBy) {
     m_isMoving = isMoving;
-    m_stoppedBy = stoppedBy;
+    // The end of a move hinders nobody.
+    m_stoppedBy = stoppedBy == QLatin1String("arrived") ? QString() : stoppedBy;
     draw();
 }
 
@@ -58,6 +59,8 @@ QString JogState::words() const {
         return tr("The arm is near a singularity. Jog the joints to get past it.");
     if (m_stoppedBy == QLatin1String("not renewed"))
         return tr("The robot stopped because the pendant was too busy to hold the key.");
+    if (m_stoppedBy == QLatin1String("drives off"))
+        return tr("The robot stopped because its drives went off.");
     return tr("The robot stopped: %1").arg(m_stoppedBy);
 }
 

@@ -4,9 +4,14 @@
 #include "briskx/navigationmodel.h"
 #include "frame/pagekeys.h"
 #include "frame/pendantwindow.h"
+#include "iopage.h"
 #include "jogpage.h"
+#include "logpage.h"
 #include "messagespage.h"
 #include "pointspage.h"
+#include "programpage.h"
+#include "projectspage.h"
+#include "robotpage.h"
 #include "settingspage.h"
 #include "startpage.h"
 #include "variablespage.h"
@@ -25,12 +30,17 @@ const QString ownGroup = QStringLiteral("orca.pendant");
 
 OwnPages::OwnPages(PendantWindow* window)
     : QObject(window), m_window(window), m_start(new StartPage(window->theme())),
-      m_settings(new SettingsPage(window->theme())) {
+      m_program(new ProgramPage(window->theme())), m_settings(new SettingsPage(window->theme())) {
     add(pagekeys::start(), QStringLiteral("start"), m_start);
     add(pagekeys::jog(), QStringLiteral("jog"), new JogPage(window->theme()));
+    add(pagekeys::robot(), QStringLiteral("robot"), new RobotPage(window->theme()));
+    add(pagekeys::projects(), QStringLiteral("folder"), new ProjectsPage(window->theme()));
+    add(pagekeys::program(), QStringLiteral("program"), m_program);
     add(pagekeys::variables(), QStringLiteral("variables"), new VariablesPage(window->theme()));
     add(pagekeys::points(), QStringLiteral("points"), new PointsPage(window->theme()));
+    add(pagekeys::io(), QStringLiteral("io"), new IoPage(window->theme()));
     add(pagekeys::messages(), QStringLiteral("messages"), new MessagesPage(window->theme()));
+    add(pagekeys::log(), QStringLiteral("logfile"), new LogPage(QStringLiteral("log"), window->theme()));
     add(pagekeys::settings(), QStringLiteral("settings"), m_settings);
     connect(m_start, &StartPage::openPressed, window, &PendantWindow::showPage);
     window->installEventFilter(this);
@@ -53,9 +63,12 @@ void OwnPages::add(const QString& key, const QString& icon, Page* page) {
 }
 
 void OwnPages::retranslate() {
+    m_builtIns.retranslate();
     NavigationModel::instance()->declareGroup(ownGroup, tr("Pendant"), QStringLiteral("settings"));
     NavigationModel::instance()->declareGroup(QStringLiteral("robot.pack"), tr("Plugins"), QStringLiteral("plugin"));
-    const QStringList titles{tr("Start"), tr("Jog"), tr("Variables"), tr("Points"), tr("Messages"), tr("Settings")};
+    const QStringList titles{tr("Start"),    tr("Jog"),       tr("Robot"),   tr("Projects"),
+                             tr("Program"),  tr("Variables"), tr("Points"),  tr("Signals"),
+                             tr("Messages"), tr("Log"),       tr("Settings")};
     for (int i = 0; i < m_entries.size(); ++i) {
         if (m_entries.at(i))
             m_entries.at(i)->set(this, QStringLiteral("title"), titles.at(i));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "brisk/moduleobject.h"
+#include "instructions/builtins.h"
 
 #include <QList>
 #include <QObject>
@@ -10,6 +11,7 @@ namespace pendant {
 
 class Page;
 class PendantWindow;
+class ProgramPage;
 class SettingsPage;
 class StartPage;
 
@@ -20,6 +22,7 @@ class OwnPages : public QObject {
 public:
     explicit OwnPages(PendantWindow* window);
 
+    ProgramPage* program() const { return m_program; }
     StartPage* start() const { return m_start; }
     SettingsPage* settings() const { return m_settings; }
 
@@ -31,7 +34,9 @@ private:
     void retranslate();
 
     PendantWindow* m_window;
+    BuiltIns m_builtIns; // before the page that lists them
     StartPage* m_start;
+    ProgramPage* m_program;
     SettingsPage* m_settings;
     QList<QPointer<brisk::ModuleObject>> m_entries; ///< in the order of their titles
 };

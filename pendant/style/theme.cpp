@@ -18,7 +18,7 @@ QHash<QString, QColor> lightColors() {
         {QStringLiteral("bezel"), QColor(0x2b3238)},        {QStringLiteral("bezelText"), QColor(0xd7dde2)},
         {QStringLiteral("cap"), QColor(0xdde2e7)},          {QStringLiteral("capPressed"), QColor(0xaab5bf)},
         {QStringLiteral("capEdge"), QColor(0x98a3ad)},      {QStringLiteral("capText"), QColor(0x1b2228)},
-        {QStringLiteral("capBlank"), QColor(0x3b444c)},
+        {QStringLiteral("capBlank"), QColor(0x3b444c)},     {QStringLiteral("service"), QColor(0x7a2f8f)},
     };
 }
 
@@ -36,7 +36,7 @@ QHash<QString, QColor> darkColors() {
         {QStringLiteral("bezel"), QColor(0x0b0e10)},        {QStringLiteral("bezelText"), QColor(0xc3ccd4)},
         {QStringLiteral("cap"), QColor(0x38424a)},          {QStringLiteral("capPressed"), QColor(0x1d2328)},
         {QStringLiteral("capEdge"), QColor(0x5a6670)},      {QStringLiteral("capText"), QColor(0xf0f3f5)},
-        {QStringLiteral("capBlank"), QColor(0x1a1f23)},
+        {QStringLiteral("capBlank"), QColor(0x1a1f23)},     {QStringLiteral("service"), QColor(0xdca6ec)},
     };
 }
 

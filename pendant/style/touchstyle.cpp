@@ -18,12 +18,19 @@ bool hasOwnDelegate(const QComboBox* combo) {
 
 const char* const emptyProperty = "empty";
 
-void markEmptiness(QLineEdit* edit) {
-    if (edit->property(emptyProperty) == QVariant(edit->text().isEmpty()))
+void mark(QWidget* widget, bool isEmpty) {
+    if (widget->property(emptyProperty) == QVariant(isEmpty))
         return;
-    edit->setProperty(emptyProperty, edit->text().isEmpty());
-    edit->style()->unpolish(edit);
-    edit->style()->polish(edit);
+    widget->setProperty(emptyProperty, isEmpty);
+    widget->style()->unpolish(widget);
+    widget->style()->polish(widget);
+}
+
+// The field of a combo box is drawn as the combo box is.
+void markEmptiness(QLineEdit* edit) {
+    mark(edit, edit->text().isEmpty());
+    if (auto* combo = qobject_cast<QComboBox*>(edit->parentWidget()))
+        mark(combo, edit->text().isEmpty());
 }
 
 } // namespace
@@ -40,6 +47,8 @@ void TouchStyle::polish(QWidget* widget) {
     auto* combo = qobject_cast<QComboBox*>(widget);
     if (combo && !hasOwnDelegate(combo))
         combo->setItemDelegate(new QStyledItemDelegate(combo));
+    if (combo && combo->lineEdit())
+        combo->setProperty(emptyProperty, combo->lineEdit()->text().isEmpty());
 }
 
 int TouchStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {

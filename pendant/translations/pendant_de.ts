@@ -25,6 +25,96 @@
     </message>
 </context>
 <context>
+    <name>pendant::AssignWidget</name>
+    <message>
+        <source>Choose the variable, or type its name.</source>
+        <translation>Wählen Sie die Variable oder geben Sie ihren Namen ein.</translation>
+    </message>
+    <message>
+        <source>Type the value that the variable gets.</source>
+        <translation>Geben Sie den Wert ein, den die Variable bekommt.</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variable</translation>
+    </message>
+    <message>
+        <source>Name of a variable</source>
+        <translation>Name einer Variablen</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Such as 5, parts + 1 or &quot;text&quot;</source>
+        <translation>Etwa 5, teile + 1 oder &quot;Text&quot;</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::BuiltIns</name>
+    <message>
+        <source>Motion</source>
+        <translation>Bewegung</translation>
+    </message>
+    <message>
+        <source>Logic</source>
+        <translation>Ablauf</translation>
+    </message>
+    <message>
+        <source>Inputs and outputs</source>
+        <translation>Ein- und Ausgänge</translation>
+    </message>
+    <message>
+        <source>Joint move</source>
+        <translation>Achsbewegung</translation>
+    </message>
+    <message>
+        <source>Moves all axes at once to a point, the quickest way</source>
+        <translation>Fährt alle Achsen zugleich zu einem Punkt, auf dem schnellsten Weg</translation>
+    </message>
+    <message>
+        <source>Linear move</source>
+        <translation>Linearbewegung</translation>
+    </message>
+    <message>
+        <source>Moves the tool on a straight line to a point</source>
+        <translation>Fährt das Werkzeug geradlinig zu einem Punkt</translation>
+    </message>
+    <message>
+        <source>Wait</source>
+        <translation>Warten</translation>
+    </message>
+    <message>
+        <source>Waits for a time</source>
+        <translation>Wartet eine Zeit lang</translation>
+    </message>
+    <message>
+        <source>Assign</source>
+        <translation>Zuweisen</translation>
+    </message>
+    <message>
+        <source>Gives a variable a value</source>
+        <translation>Gibt einer Variablen einen Wert</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Kommentar</translation>
+    </message>
+    <message>
+        <source>A note for people; the robot passes it over</source>
+        <translation>Ein Hinweis für Menschen; der Roboter übergeht ihn</translation>
+    </message>
+    <message>
+        <source>Set digital output</source>
+        <translation>Digitalausgang setzen</translation>
+    </message>
+    <message>
+        <source>Switches an output on or off</source>
+        <translation>Schaltet einen Ausgang ein oder aus</translation>
+    </message>
+</context>
+<context>
     <name>pendant::CallGuard</name>
     <message>
         <source>%1 threw: %2</source>
@@ -37,6 +127,17 @@
     <message>
         <source>a value of type %1, which is no std::exception</source>
         <translation>ein Wert des Typs %1, der keine std::exception ist</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::CommentWidget</name>
+    <message>
+        <source>Comment</source>
+        <translation>Kommentar</translation>
+    </message>
+    <message>
+        <source>What the lines below are for</source>
+        <translation>Wozu die Zeilen darunter da sind</translation>
     </message>
 </context>
 <context>
@@ -120,6 +221,209 @@
     </message>
 </context>
 <context>
+    <name>pendant::InstructionWidget</name>
+    <message>
+        <source>“%1” is no line of this instruction.</source>
+        <translation>„%1“ ist keine Zeile dieser Anweisung.</translation>
+    </message>
+    <message>
+        <source>This cannot be written into a line. Quotation marks come in pairs, and “//” begins a comment.</source>
+        <translation>Das lässt sich nicht in eine Zeile schreiben. Anführungszeichen kommen paarweise vor, und mit „//“ beginnt ein Kommentar.</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::IoDelegate</name>
+    <message>
+        <source>Forced</source>
+        <translation>Erzwungen</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::IoPage</name>
+    <message>
+        <source>Signals</source>
+        <translation>Signale</translation>
+    </message>
+    <message>
+        <source>Inputs</source>
+        <translation>Eingänge</translation>
+    </message>
+    <message>
+        <source>Outputs</source>
+        <translation>Ausgänge</translation>
+    </message>
+    <message>
+        <source>Registers</source>
+        <translation>Register</translation>
+    </message>
+    <message>
+        <source>Find by name</source>
+        <translation>Nach Namen suchen</translation>
+    </message>
+    <message>
+        <source>Release all</source>
+        <translation>Alle freigeben</translation>
+    </message>
+    <message>
+        <source>No connection: these are the last values that were told.</source>
+        <translation>Keine Verbindung: Das sind die zuletzt gemeldeten Werte.</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>Nothing of this name</source>
+        <translation>Nichts mit diesem Namen</translation>
+    </message>
+    <message>
+        <source>Clear the field above to see all.</source>
+        <translation>Leeren Sie das Feld oben, um alle zu sehen.</translation>
+    </message>
+    <message>
+        <source>No connection to the robot</source>
+        <translation>Keine Verbindung zum Roboter</translation>
+    </message>
+    <message>
+        <source>Signals and registers are listed here as soon as the link to the bus is up. “Links” in the developer dock (F12) brings it up.</source>
+        <translation>Signale und Register stehen hier, sobald die Verbindung zum Bus besteht. „Verbindungen“ im Entwicklerfenster (F12) stellt sie her.</translation>
+    </message>
+    <message>
+        <source>No registers</source>
+        <translation>Keine Register</translation>
+    </message>
+    <message>
+        <source>The registers of the controller are listed here and can be changed. Give its cell file a section “registers”.</source>
+        <translation>Hier stehen die Register der Steuerung und können geändert werden. Geben Sie der Zellendatei einen Abschnitt „registers“.</translation>
+    </message>
+    <message>
+        <source>No signals</source>
+        <translation>Keine Signale</translation>
+    </message>
+    <message>
+        <source>The signals of the controller are listed here: outputs can be switched, inputs forced. Give its cell file a section “signals”.</source>
+        <translation>Hier stehen die Signale der Steuerung: Ausgänge lassen sich schalten, Eingänge erzwingen. Geben Sie der Zellendatei einen Abschnitt „signals“.</translation>
+    </message>
+    <message>
+        <source>%1 forced</source>
+        <translation>%1 erzwungen</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::IoRegisterDetails</name>
+    <message>
+        <source>One value a line</source>
+        <translation>Ein Wert je Zeile</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Set</source>
+        <translation>Setzen</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::IoRegistersModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>Werte</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::IoRegistersPart</name>
+    <message>
+        <source>Select a register to change its values.</source>
+        <translation>Wählen Sie ein Register aus, um seine Werte zu ändern.</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::IoSignalDetails</name>
+    <message>
+        <source>Force off</source>
+        <translation>Aus erzwingen</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <comment>switch</comment>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>Force on</source>
+        <translation>Ein erzwingen</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <comment>switch</comment>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>Force</source>
+        <translation>Erzwingen</translation>
+    </message>
+    <message>
+        <source>Set</source>
+        <translation>Setzen</translation>
+    </message>
+    <message>
+        <source>Release</source>
+        <translation>Freigeben</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::IoSignalsModel</name>
+    <message>
+        <source>Digital inputs</source>
+        <translation>Digitale Eingänge</translation>
+    </message>
+    <message>
+        <source>Digital outputs</source>
+        <translation>Digitale Ausgänge</translation>
+    </message>
+    <message>
+        <source>Group inputs</source>
+        <translation>Gruppeneingänge</translation>
+    </message>
+    <message>
+        <source>Group outputs</source>
+        <translation>Gruppenausgänge</translation>
+    </message>
+    <message>
+        <source>Analogue inputs</source>
+        <translation>Analoge Eingänge</translation>
+    </message>
+    <message>
+        <source>Analogue outputs</source>
+        <translation>Analoge Ausgänge</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <comment>signal</comment>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <comment>signal</comment>
+        <translation>Aus</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::IoSignalsPart</name>
+    <message>
+        <source>Select an input to force it.</source>
+        <translation>Wählen Sie einen Eingang aus, um ihn zu erzwingen.</translation>
+    </message>
+    <message>
+        <source>Select an output to switch it.</source>
+        <translation>Wählen Sie einen Ausgang aus, um ihn zu schalten.</translation>
+    </message>
+</context>
+<context>
     <name>pendant::JogPage</name>
     <message>
         <source>Jog</source>
@@ -193,6 +497,10 @@
         <translation>Der Roboter hielt an: Das Bediengerät war zu beschäftigt, um die Taste zu halten.</translation>
     </message>
     <message>
+        <source>The robot stopped because its drives went off.</source>
+        <translation>Der Roboter hielt an: Seine Antriebe wurden ausgeschaltet.</translation>
+    </message>
+    <message>
         <source>The robot stopped: %1</source>
         <translation>Der Roboter hielt an: %1</translation>
     </message>
@@ -202,6 +510,21 @@
     <message>
         <source>No keys in use</source>
         <translation>Keine Tasten belegt</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::LineTypes</name>
+    <message>
+        <source>The pattern is no regular expression: %1, at character %2. No line belongs to this type.</source>
+        <translation>Das Muster ist kein regulärer Ausdruck: %1, bei Zeichen %2. Keine Zeile gehört zu diesem Typ.</translation>
+    </message>
+    <message>
+        <source>The pattern gave up on a line of %1 characters; the line counts as none of this type.</source>
+        <translation>Das Muster hat bei einer Zeile von %1 Zeichen aufgegeben; die Zeile zählt nicht zu diesem Typ.</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Sonstige</translation>
     </message>
 </context>
 <context>
@@ -271,6 +594,185 @@
     </message>
 </context>
 <context>
+    <name>pendant::LogChooser</name>
+    <message>
+        <source>Log</source>
+        <translation>Log</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Tag</translation>
+    </message>
+    <message>
+        <source>All days</source>
+        <translation>Alle Tage</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::LogFilterBar</name>
+    <message>
+        <source>All levels</source>
+        <translation>Alle Stufen</translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Without service</source>
+        <translation>Ohne Dienst</translation>
+    </message>
+    <message>
+        <source>Service</source>
+        <translation>Dienst</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>Other lines</source>
+        <translation>Andere Zeilen</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Stufe</translation>
+    </message>
+    <message>
+        <source>Module</source>
+        <translation>Modul</translation>
+    </message>
+    <message>
+        <source>Find text</source>
+        <translation>Text suchen</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::LogPage</name>
+    <message>
+        <source>Log</source>
+        <translation>Log</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Newest lines</source>
+        <translation>Neueste Zeilen</translation>
+    </message>
+    <message>
+        <source>Lines of the log</source>
+        <translation>Zeilen des Logs</translation>
+    </message>
+    <message>
+        <source>The line in full</source>
+        <translation>Die ganze Zeile</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>Suche läuft</translation>
+    </message>
+    <message>
+        <source>What is found appears here, the newest first.</source>
+        <translation>Was gefunden wird, erscheint hier, das Neueste zuerst.</translation>
+    </message>
+    <message>
+        <source>Nothing matches the filter</source>
+        <translation>Nichts passt zum Filter</translation>
+    </message>
+    <message>
+        <source>All levels, or other text, brings back what is hidden.</source>
+        <translation>Alle Stufen oder ein anderer Text bringen zurück, was verborgen ist.</translation>
+    </message>
+    <message>
+        <source>The log cannot be read</source>
+        <translation>Das Log ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>Nothing logged yet</source>
+        <translation>Noch keine Einträge</translation>
+    </message>
+    <message>
+        <source>What plugins and the pendant write with their log streams appears here, from all “.log” files below this folder. The first line makes the file.</source>
+        <translation>Was Plugins und Bediengerät mit ihren Log-Streams schreiben, erscheint hier, aus allen „.log“-Dateien unter diesem Ordner. Die erste Zeile legt die Datei an.</translation>
+    </message>
+    <message>
+        <source>%1   %2 in %3 files</source>
+        <translation>%1   %2 in %3 Dateien</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 ist nicht lesbar: %2</translation>
+    </message>
+    <message>
+        <source>Nothing is that late; these are the newest lines.</source>
+        <translation>So spät gibt es nichts; dies sind die neuesten Zeilen.</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>Live</translation>
+    </message>
+    <message>
+        <source>Searching: %1 % looked at, %2 found</source>
+        <translation>Suche: %1 % durchgesehen, %2 gefunden</translation>
+    </message>
+    <message>
+        <source>The newest %1 are shown</source>
+        <translation>Die neuesten %1 werden gezeigt</translation>
+    </message>
+    <message>
+        <source>Stopped: %1 % looked at, %2 found</source>
+        <translation>Abgebrochen: %1 % durchgesehen, %2 gefunden</translation>
+    </message>
+    <message>
+        <source>%1 found</source>
+        <translation>%1 gefunden</translation>
+    </message>
+    <message>
+        <source>Live; %1 is written to as well</source>
+        <translation>Live; auch in %1 wird geschrieben</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::LogTimeBar</name>
+    <message>
+        <source>Time to go to</source>
+        <translation>Zeit, zu der gesprungen wird</translation>
+    </message>
+    <message>
+        <source>Go to this time</source>
+        <translation>Zu dieser Zeit</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::LogView</name>
+    <message>
+        <source>Service</source>
+        <translation>Dienst</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+</context>
+<context>
     <name>pendant::MessageLine</name>
     <message>
         <source>Messages: %1</source>
@@ -333,6 +835,49 @@
     <message>
         <source>What the pendant and its plugins have to tell appears here, the newest first.</source>
         <translation>Hier erscheint, was das Bediengerät und seine Plugins melden, das Neueste zuerst.</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::MoveWidget</name>
+    <message>
+        <source>Choose the point to move to, or type its name.</source>
+        <translation>Wählen Sie den Punkt, zu dem gefahren wird, oder geben Sie seinen Namen ein.</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Punkt</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Zone</source>
+        <translation>Überschleifen</translation>
+    </message>
+    <message>
+        <source>Tool</source>
+        <translation>Werkzeug</translation>
+    </message>
+    <message>
+        <source>Work object</source>
+        <translation>Werkobjekt</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>How far from the point the robot may leave its path for the next move</source>
+        <translation>Wie weit vor dem Punkt der Roboter seine Bahn für die nächste Bewegung verlassen darf</translation>
+    </message>
+    <message>
+        <source>Name of a point</source>
+        <translation>Name eines Punktes</translation>
+    </message>
+    <message>
+        <source>Selected</source>
+        <translation>Gewähltes</translation>
     </message>
 </context>
 <context>
@@ -414,6 +959,33 @@
     </message>
 </context>
 <context>
+    <name>pendant::OutputWidget</name>
+    <message>
+        <source>Type the name of the output.</source>
+        <translation>Geben Sie den Namen des Ausgangs ein.</translation>
+    </message>
+    <message>
+        <source>Digital output</source>
+        <translation>Digitalausgang</translation>
+    </message>
+    <message>
+        <source>Name of the signal</source>
+        <translation>Name des Signals</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+</context>
+<context>
     <name>pendant::OwnPages</name>
     <message>
         <source>Pendant</source>
@@ -446,6 +1018,26 @@
     <message>
         <source>Points</source>
         <translation>Punkte</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programm</translation>
+    </message>
+    <message>
+        <source>Signals</source>
+        <translation>Signale</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Log</translation>
+    </message>
+    <message>
+        <source>Robot</source>
+        <translation>Roboter</translation>
+    </message>
+    <message>
+        <source>Projects</source>
+        <translation>Projekte</translation>
     </message>
 </context>
 <context>
@@ -603,6 +1195,469 @@
     </message>
 </context>
 <context>
+    <name>pendant::Program</name>
+    <message>
+        <source>A line break cannot stand within a program line.</source>
+        <translation>Ein Zeilenumbruch kann nicht in einer Programmzeile stehen.</translation>
+    </message>
+    <message>
+        <source>A null character cannot stand in a program line.</source>
+        <translation>Ein Nullzeichen kann nicht in einer Programmzeile stehen.</translation>
+    </message>
+    <message>
+        <source>Half of a character cannot stand in a program line.</source>
+        <translation>Ein halbes Zeichen kann nicht in einer Programmzeile stehen.</translation>
+    </message>
+    <message>
+        <source>Insert line</source>
+        <translation>Zeile einfügen</translation>
+    </message>
+    <message>
+        <source>Delete line</source>
+        <translation>Zeile löschen</translation>
+    </message>
+    <message>
+        <source>Change line</source>
+        <translation>Zeile ändern</translation>
+    </message>
+    <message>
+        <source>Move line</source>
+        <translation>Zeile verschieben</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::ProgramContent</name>
+    <message>
+        <source>Its creator threw: %1</source>
+        <translation>Seine Erzeugung warf: %1</translation>
+    </message>
+    <message>
+        <source>Its creator made no widget.</source>
+        <translation>Seine Erzeugung lieferte kein Widget.</translation>
+    </message>
+    <message>
+        <source>%1 threw: %2</source>
+        <translation>%1 warf: %2</translation>
+    </message>
+    <message>
+        <source>Its widget deleted itself in %1.</source>
+        <translation>Sein Widget hat sich in %1 selbst gelöscht.</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::ProgramDelegate</name>
+    <message>
+        <source>Empty line</source>
+        <translation>Leere Zeile</translation>
+    </message>
+    <message>
+        <source>No instruction knows this line</source>
+        <translation>Keine Anweisung kennt diese Zeile</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::ProgramEditor</name>
+    <message>
+        <source>It can be moved and deleted.</source>
+        <translation>Sie kann verschoben und gelöscht werden.</translation>
+    </message>
+    <message>
+        <source>“%1” brings no widget to insert it with.</source>
+        <translation>„%1“ bringt kein Widget zum Einfügen mit.</translation>
+    </message>
+    <message>
+        <source>“%1” brings no widget to edit its lines.</source>
+        <translation>„%1“ bringt kein Widget zum Bearbeiten seiner Zeilen mit.</translation>
+    </message>
+    <message>
+        <source>“%1” could not be opened. The messages say why.</source>
+        <translation>„%1“ konnte nicht geöffnet werden. Die Meldungen sagen, warum.</translation>
+    </message>
+    <message>
+        <source>“%1” failed. The messages say why.</source>
+        <translation>„%1“ ist gescheitert. Die Meldungen sagen, warum.</translation>
+    </message>
+    <message>
+        <source>Insert</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Übernehmen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>Also matches: %1</source>
+        <translation>Passt auch zu: %1</translation>
+    </message>
+    <message>
+        <source>It is kept as it is, and can be moved and deleted. It may belong to a plugin that is not loaded.</source>
+        <translation>Sie bleibt, wie sie ist, und kann verschoben und gelöscht werden. Vielleicht gehört sie zu einem Plugin, das nicht geladen ist.</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::ProgramFile</name>
+    <message>
+        <source>The program %1 was not opened: %2</source>
+        <translation>Das Programm %1 wurde nicht geöffnet: %2</translation>
+    </message>
+    <message>
+        <source>it is no file.</source>
+        <translation>es ist keine Datei.</translation>
+    </message>
+    <message>
+        <source>it is no text in UTF-8.</source>
+        <translation>es ist kein Text in UTF-8.</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>it is longer than %1 MiB.</source>
+        <translation>es ist länger als %1 MiB.</translation>
+    </message>
+    <message>
+        <source>The program was not written to %1: %2</source>
+        <translation>Das Programm wurde nicht nach %1 geschrieben: %2</translation>
+    </message>
+    <message>
+        <source>its folder cannot be made.</source>
+        <translation>sein Ordner kann nicht angelegt werden.</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::ProgramPage</name>
+    <message>
+        <source>Program</source>
+        <translation>Programm</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Save the program (Ctrl+S)</source>
+        <translation>Das Programm speichern (Strg+S)</translation>
+    </message>
+    <message>
+        <source>Select a line to edit it.</source>
+        <translation>Wählen Sie eine Zeile, um sie zu bearbeiten.</translation>
+    </message>
+    <message>
+        <source>No lines yet</source>
+        <translation>Noch keine Zeilen</translation>
+    </message>
+    <message>
+        <source>The lines of the robot program stand here. Press “Insert” and choose an instruction for the first one.</source>
+        <translation>Hier stehen die Zeilen des Roboterprogramms. Drücken Sie „Einfügen“ und wählen Sie die Anweisung für die erste.</translation>
+    </message>
+    <message>
+        <source>Empty line</source>
+        <translation>Leere Zeile</translation>
+    </message>
+    <message>
+        <source>No instruction knows this line</source>
+        <translation>Keine Anweisung kennt diese Zeile</translation>
+    </message>
+    <message>
+        <source>No program is open</source>
+        <translation>Kein Programm ist geöffnet</translation>
+    </message>
+    <message>
+        <source>Becomes the first line</source>
+        <translation>Wird die erste Zeile</translation>
+    </message>
+    <message>
+        <source>Becomes line %1</source>
+        <translation>Wird Zeile %1</translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation>Zeile %1</translation>
+    </message>
+    <message>
+        <source>● %1, not saved</source>
+        <translation>● %1, nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>Changes from before that were not saved are in the program again. Save them, or take them back with undo.</source>
+        <translation>Änderungen von früher, die nicht gespeichert waren, stehen wieder im Programm. Speichern Sie sie, oder nehmen Sie sie mit „Rückgängig“ zurück.</translation>
+    </message>
+    <message>
+        <source>The robot program of the open project is edited here. The project comes from the controller when the links are up. %1</source>
+        <translation>Hier wird das Roboterprogramm des geöffneten Projekts bearbeitet. Das Projekt kommt von der Steuerung, sobald die Verbindungen stehen. %1</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::ProgramPicker</name>
+    <message>
+        <source>Choose an instruction</source>
+        <translation>Anweisung wählen</translation>
+    </message>
+    <message>
+        <source>Find by name</source>
+        <translation>Nach Namen suchen</translation>
+    </message>
+    <message>
+        <source>No instruction of this name</source>
+        <translation>Keine Anweisung dieses Namens</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::ProgramPlace</name>
+    <message>
+        <source>No project is open.</source>
+        <translation>Kein Projekt ist geöffnet.</translation>
+    </message>
+    <message>
+        <source>The project&apos;s name “%1” leads out of the workspace.</source>
+        <translation>Der Projektname „%1“ führt aus dem Arbeitsbereich hinaus.</translation>
+    </message>
+    <message>
+        <source>The program&apos;s name “%1” leads out of the project.</source>
+        <translation>Der Programmname „%1“ führt aus dem Projekt hinaus.</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::ProgramStore</name>
+    <message>
+        <source>Take up unsaved changes</source>
+        <translation>Ungespeicherte Änderungen übernehmen</translation>
+    </message>
+    <message>
+        <source>It was renamed to %1.</source>
+        <translation>Sie heißt jetzt %1.</translation>
+    </message>
+    <message>
+        <source>The program was not written: its project was deleted.</source>
+        <translation>Das Programm wurde nicht geschrieben: Sein Projekt wurde gelöscht.</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::ProgramTools</name>
+    <message>
+        <source>Insert</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Insert a line below (Ins)</source>
+        <translation>Eine Zeile darunter einfügen (Einfg)</translation>
+    </message>
+    <message>
+        <source>Delete the line (Del)</source>
+        <translation>Die Zeile löschen (Entf)</translation>
+    </message>
+    <message>
+        <source>Move the line up (Ctrl+Up)</source>
+        <translation>Die Zeile nach oben verschieben (Strg+Auf)</translation>
+    </message>
+    <message>
+        <source>Move the line down (Ctrl+Down)</source>
+        <translation>Die Zeile nach unten verschieben (Strg+Ab)</translation>
+    </message>
+    <message>
+        <source>Undo (Ctrl+Z)</source>
+        <translation>Rückgängig (Strg+Z)</translation>
+    </message>
+    <message>
+        <source>Undo: %1 (Ctrl+Z)</source>
+        <translation>Rückgängig: %1 (Strg+Z)</translation>
+    </message>
+    <message>
+        <source>Redo (Ctrl+Y)</source>
+        <translation>Wiederholen (Strg+Y)</translation>
+    </message>
+    <message>
+        <source>Redo: %1 (Ctrl+Y)</source>
+        <translation>Wiederholen: %1 (Strg+Y)</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::ProgramTour</name>
+    <message>
+        <source>No program is open.</source>
+        <translation>Kein Programm ist geöffnet.</translation>
+    </message>
+    <message>
+        <source>“%1” is not offered.</source>
+        <translation>„%1“ wird nicht angeboten.</translation>
+    </message>
+    <message>
+        <source>A new line of “%1”.</source>
+        <translation>Eine neue Zeile von „%1“.</translation>
+    </message>
+    <message>
+        <source>“%1” refuses the line as it is.</source>
+        <translation>„%1“ lehnt die Zeile so ab.</translation>
+    </message>
+    <message>
+        <source>“%1” refuses the line with what the tour filled in.</source>
+        <translation>„%1“ lehnt die Zeile auch mit dem ab, was der Rundgang eingetragen hat.</translation>
+    </message>
+    <message>
+        <source>Inserted a line of “%1”.</source>
+        <translation>Eine Zeile von „%1“ eingefügt.</translation>
+    </message>
+    <message>
+        <source>The line of “%1” was applied as it was.</source>
+        <translation>Die Zeile von „%1“ wurde unverändert übernommen.</translation>
+    </message>
+    <message>
+        <source>Edited the line of “%1”.</source>
+        <translation>Die Zeile von „%1“ bearbeitet.</translation>
+    </message>
+    <message>
+        <source>Took the edit back.</source>
+        <translation>Die Änderung zurückgenommen.</translation>
+    </message>
+    <message>
+        <source>Saved the program.</source>
+        <translation>Das Programm gespeichert.</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::ProgramWriter</name>
+    <message>
+        <source>“%1” refuses this line.</source>
+        <translation>„%1“ lehnt diese Zeile ab.</translation>
+    </message>
+    <message>
+        <source>The pattern of “%1” does not match the line that it made: it will not be recognised as one of its lines.</source>
+        <translation>Das Muster von „%1“ passt nicht zu der Zeile, die es erzeugt hat: Sie wird nicht als eine seiner Zeilen erkannt werden.</translation>
+    </message>
+    <message>
+        <source>Its line: %1</source>
+        <translation>Seine Zeile: %1</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::ProjectDetails</name>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Keep it</source>
+        <translation>Behalten</translation>
+    </message>
+    <message>
+        <source>Delete for good</source>
+        <translation>Endgültig löschen</translation>
+    </message>
+    <message>
+        <source>Delete it with its variables, points and programs? It cannot be brought back.</source>
+        <translation>Mit seinen Variablen, Punkten und Programmen löschen? Es kann nicht zurückgeholt werden.</translation>
+    </message>
+    <message>
+        <source>This project is open. Open another one before you delete it.</source>
+        <translation>Dieses Projekt ist geöffnet. Öffnen Sie ein anderes, bevor Sie es löschen.</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::ProjectForm</name>
+    <message>
+        <source>New project</source>
+        <translation>Neues Projekt</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Create and open</source>
+        <translation>Anlegen und öffnen</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::ProjectMirror</name>
+    <message>
+        <source>The project %1 was not opened: the controller does not answer.</source>
+        <translation>Das Projekt %1 wurde nicht geöffnet: Die Steuerung antwortet nicht.</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::ProjectsModel</name>
+    <message>
+        <source>Open</source>
+        <translation>Geöffnet</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>Created</source>
+        <translation>Angelegt</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Beschreibung</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::ProjectsPage</name>
+    <message>
+        <source>Projects</source>
+        <translation>Projekte</translation>
+    </message>
+    <message>
+        <source>New project</source>
+        <translation>Neues Projekt</translation>
+    </message>
+    <message>
+        <source>Select a project to open or delete it.</source>
+        <translation>Wählen Sie ein Projekt, um es zu öffnen oder zu löschen.</translation>
+    </message>
+    <message>
+        <source>No connection: these are the projects that were there last.</source>
+        <translation>Keine Verbindung: Dies sind die Projekte, die es zuletzt gab.</translation>
+    </message>
+    <message>
+        <source>No projects</source>
+        <translation>Keine Projekte</translation>
+    </message>
+    <message>
+        <source>The projects of this robot are listed here, a folder each in the workspace. Press “New project” to make one.</source>
+        <translation>Hier stehen die Projekte dieses Roboters, jedes ein Ordner im Arbeitsbereich. Drücken Sie „Neues Projekt“, um eines anzulegen.</translation>
+    </message>
+    <message>
+        <source>No connection to the robot</source>
+        <translation>Keine Verbindung zum Roboter</translation>
+    </message>
+    <message>
+        <source>The projects of this robot are listed here as soon as both links are up. “Links” in the developer dock (F12) brings them up.</source>
+        <translation>Hier stehen die Projekte dieses Roboters, sobald beide Verbindungen da sind. „Verbindungen“ im Entwicklerfenster (F12) stellt sie her.</translation>
+    </message>
+</context>
+<context>
     <name>pendant::RecordsPage</name>
     <message>
         <source>Find by name</source>
@@ -619,6 +1674,61 @@
     <message>
         <source>Clear the field above to see all.</source>
         <translation>Das Feld oben leeren, um alle zu sehen.</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::RobotPage</name>
+    <message>
+        <source>Robot</source>
+        <translation>Roboter</translation>
+    </message>
+    <message>
+        <source>Front</source>
+        <comment>view of the robot</comment>
+        <translation>Vorn</translation>
+    </message>
+    <message>
+        <source>Side</source>
+        <comment>view of the robot</comment>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <comment>view of the robot</comment>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <comment>view of the robot</comment>
+        <translation>Alles zeigen</translation>
+    </message>
+    <message>
+        <source>Drag to turn, pinch to zoom, two fingers to shift.</source>
+        <translation>Ziehen dreht, zwei Finger zoomen und verschieben.</translation>
+    </message>
+    <message>
+        <source>No robot</source>
+        <translation>Kein Roboter</translation>
+    </message>
+    <message>
+        <source>The robot is drawn here. This controller does not tell what its robot looks like (“robot.arm”).</source>
+        <translation>Hier wird der Roboter gezeichnet. Diese Steuerung teilt nicht mit, wie ihr Roboter aussieht („robot.arm“).</translation>
+    </message>
+    <message>
+        <source>No connection to the robot</source>
+        <translation>Keine Verbindung zum Roboter</translation>
+    </message>
+    <message>
+        <source>The robot is drawn here as soon as the links to the bus and to the controller are up. “Links” in the developer dock (F12) brings them up.</source>
+        <translation>Der Roboter wird hier gezeichnet, sobald die Verbindungen zum Bus und zur Steuerung stehen. „Verbindungen“ im Entwicklerfenster (F12) stellt sie her.</translation>
+    </message>
+    <message>
+        <source>Joints %1 °</source>
+        <translation>Achsen %1 °</translation>
+    </message>
+    <message>
+        <source>X %1  Y %2  Z %3 mm in %4</source>
+        <translation>X %1  Y %2  Z %3 mm in %4</translation>
     </message>
 </context>
 <context>
@@ -818,6 +1928,34 @@
         <source>Off</source>
         <comment>drive power</comment>
         <translation>Aus</translation>
+    </message>
+    <message>
+        <source>Robot</source>
+        <translation>Roboter</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Hand</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatik</translation>
+    </message>
+    <message>
+        <source>Standing</source>
+        <translation>Steht</translation>
+    </message>
+    <message>
+        <source>Moving</source>
+        <translation>Fährt</translation>
+    </message>
+    <message>
+        <source>Stopping</source>
+        <translation>Hält an</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
     </message>
 </context>
 <context>
@@ -1289,6 +2427,13 @@
     </message>
 </context>
 <context>
+    <name>pendant::WaitWidget</name>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+</context>
+<context>
     <name>pendant::WorkFolder</name>
     <message>
         <source>The folder %1 cannot be made. Name another one with --work.</source>
@@ -1297,6 +2442,53 @@
     <message>
         <source>The folder %1 cannot be entered. Name another one with --work.</source>
         <translation>In den Ordner %1 kann nicht gewechselt werden. Geben Sie mit --work einen anderen an.</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::Workspace</name>
+    <message>
+        <source>Type a name.</source>
+        <translation>Geben Sie einen Namen ein.</translation>
+    </message>
+    <message>
+        <source>“_temp” is kept for the pendant itself. Choose another name.</source>
+        <translation>„_temp“ ist dem Bediengerät selbst vorbehalten. Wählen Sie einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>A name has no “/” and is neither “.” nor “..”.</source>
+        <translation>Ein Name enthält kein „/“ und ist weder „.“ noch „..“.</translation>
+    </message>
+    <message>
+        <source>A name does not begin with a dot: the folder would be hidden.</source>
+        <translation>Ein Name beginnt nicht mit einem Punkt: Der Ordner wäre versteckt.</translation>
+    </message>
+    <message>
+        <source>A name has no blanks at its ends and no letters that cannot be seen.</source>
+        <translation>Ein Name hat keine Leerzeichen am Anfang oder Ende und keine unsichtbaren Zeichen.</translation>
+    </message>
+    <message>
+        <source>A name has at most %1 letters.</source>
+        <translation>Ein Name hat höchstens %1 Zeichen.</translation>
+    </message>
+    <message>
+        <source>There is a project “%1” already.</source>
+        <translation>Es gibt schon ein Projekt „%1“.</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be made.</source>
+        <translation>Der Ordner %1 kann nicht angelegt werden.</translation>
+    </message>
+    <message>
+        <source>The description of “%1” was not written.</source>
+        <translation>Die Beschreibung von „%1“ wurde nicht geschrieben.</translation>
+    </message>
+    <message>
+        <source>There is no project “%1”.</source>
+        <translation>Es gibt kein Projekt „%1“.</translation>
+    </message>
+    <message>
+        <source>The project “%1” was not deleted completely: something in %2 cannot be deleted.</source>
+        <translation>Das Projekt „%1“ wurde nicht vollständig gelöscht: In %2 lässt sich etwas nicht löschen.</translation>
     </message>
 </context>
 </TS>

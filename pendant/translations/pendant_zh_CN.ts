@@ -25,6 +25,96 @@
     </message>
 </context>
 <context>
+    <name>pendant::AssignWidget</name>
+    <message>
+        <source>Choose the variable, or type its name.</source>
+        <translation>请选择变量，或输入其名称。</translation>
+    </message>
+    <message>
+        <source>Type the value that the variable gets.</source>
+        <translation>请输入要赋给变量的值。</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>变量</translation>
+    </message>
+    <message>
+        <source>Name of a variable</source>
+        <translation>变量名称</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>Such as 5, parts + 1 or &quot;text&quot;</source>
+        <translation>例如 5、parts + 1 或 &quot;文本&quot;</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::BuiltIns</name>
+    <message>
+        <source>Motion</source>
+        <translation>运动</translation>
+    </message>
+    <message>
+        <source>Logic</source>
+        <translation>逻辑</translation>
+    </message>
+    <message>
+        <source>Inputs and outputs</source>
+        <translation>输入与输出</translation>
+    </message>
+    <message>
+        <source>Joint move</source>
+        <translation>关节运动</translation>
+    </message>
+    <message>
+        <source>Moves all axes at once to a point, the quickest way</source>
+        <translation>所有轴同时运动到一个点，路径最快</translation>
+    </message>
+    <message>
+        <source>Linear move</source>
+        <translation>直线运动</translation>
+    </message>
+    <message>
+        <source>Moves the tool on a straight line to a point</source>
+        <translation>工具沿直线运动到一个点</translation>
+    </message>
+    <message>
+        <source>Wait</source>
+        <translation>等待</translation>
+    </message>
+    <message>
+        <source>Waits for a time</source>
+        <translation>等待一段时间</translation>
+    </message>
+    <message>
+        <source>Assign</source>
+        <translation>赋值</translation>
+    </message>
+    <message>
+        <source>Gives a variable a value</source>
+        <translation>给变量赋值</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>注释</translation>
+    </message>
+    <message>
+        <source>A note for people; the robot passes it over</source>
+        <translation>供人阅读的说明，机器人会跳过</translation>
+    </message>
+    <message>
+        <source>Set digital output</source>
+        <translation>设置数字输出</translation>
+    </message>
+    <message>
+        <source>Switches an output on or off</source>
+        <translation>打开或关闭一个输出</translation>
+    </message>
+</context>
+<context>
     <name>pendant::CallGuard</name>
     <message>
         <source>%1 threw: %2</source>
@@ -37,6 +127,17 @@
     <message>
         <source>a value of type %1, which is no std::exception</source>
         <translation>类型为 %1 的值，它不是 std::exception</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::CommentWidget</name>
+    <message>
+        <source>Comment</source>
+        <translation>注释</translation>
+    </message>
+    <message>
+        <source>What the lines below are for</source>
+        <translation>说明下面各行的用途</translation>
     </message>
 </context>
 <context>
@@ -120,6 +221,209 @@
     </message>
 </context>
 <context>
+    <name>pendant::InstructionWidget</name>
+    <message>
+        <source>“%1” is no line of this instruction.</source>
+        <translation>“%1”不是该指令的程序行。</translation>
+    </message>
+    <message>
+        <source>This cannot be written into a line. Quotation marks come in pairs, and “//” begins a comment.</source>
+        <translation>无法写成一行。引号必须成对，“//”之后是注释。</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::IoDelegate</name>
+    <message>
+        <source>Forced</source>
+        <translation>强制</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::IoPage</name>
+    <message>
+        <source>Signals</source>
+        <translation>信号</translation>
+    </message>
+    <message>
+        <source>Inputs</source>
+        <translation>输入</translation>
+    </message>
+    <message>
+        <source>Outputs</source>
+        <translation>输出</translation>
+    </message>
+    <message>
+        <source>Registers</source>
+        <translation>寄存器</translation>
+    </message>
+    <message>
+        <source>Find by name</source>
+        <translation>按名称查找</translation>
+    </message>
+    <message>
+        <source>Release all</source>
+        <translation>全部释放</translation>
+    </message>
+    <message>
+        <source>No connection: these are the last values that were told.</source>
+        <translation>无连接：这些是最后收到的值。</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>Nothing of this name</source>
+        <translation>没有此名称的项目</translation>
+    </message>
+    <message>
+        <source>Clear the field above to see all.</source>
+        <translation>清空上方的输入框即可查看全部。</translation>
+    </message>
+    <message>
+        <source>No connection to the robot</source>
+        <translation>未连接到机器人</translation>
+    </message>
+    <message>
+        <source>Signals and registers are listed here as soon as the link to the bus is up. “Links” in the developer dock (F12) brings it up.</source>
+        <translation>总线连接建立后，信号和寄存器会列在这里。可在开发者窗口（F12）的“连接”页中建立连接。</translation>
+    </message>
+    <message>
+        <source>No registers</source>
+        <translation>没有寄存器</translation>
+    </message>
+    <message>
+        <source>The registers of the controller are listed here and can be changed. Give its cell file a section “registers”.</source>
+        <translation>控制器的寄存器列在这里，并可修改。请在单元文件中添加“registers”一节。</translation>
+    </message>
+    <message>
+        <source>No signals</source>
+        <translation>没有信号</translation>
+    </message>
+    <message>
+        <source>The signals of the controller are listed here: outputs can be switched, inputs forced. Give its cell file a section “signals”.</source>
+        <translation>控制器的信号列在这里：可以切换输出，强制输入。请在单元文件中添加“signals”一节。</translation>
+    </message>
+    <message>
+        <source>%1 forced</source>
+        <translation>强制 %1 个</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::IoRegisterDetails</name>
+    <message>
+        <source>One value a line</source>
+        <translation>每行一个值</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Set</source>
+        <translation>设定</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::IoRegistersModel</name>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>值</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::IoRegistersPart</name>
+    <message>
+        <source>Select a register to change its values.</source>
+        <translation>选择一个寄存器以修改其值。</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::IoSignalDetails</name>
+    <message>
+        <source>Force off</source>
+        <translation>强制断开</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <comment>switch</comment>
+        <translation>断开</translation>
+    </message>
+    <message>
+        <source>Force on</source>
+        <translation>强制接通</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <comment>switch</comment>
+        <translation>接通</translation>
+    </message>
+    <message>
+        <source>Force</source>
+        <translation>强制</translation>
+    </message>
+    <message>
+        <source>Set</source>
+        <translation>设定</translation>
+    </message>
+    <message>
+        <source>Release</source>
+        <translation>释放</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::IoSignalsModel</name>
+    <message>
+        <source>Digital inputs</source>
+        <translation>数字输入</translation>
+    </message>
+    <message>
+        <source>Digital outputs</source>
+        <translation>数字输出</translation>
+    </message>
+    <message>
+        <source>Group inputs</source>
+        <translation>组输入</translation>
+    </message>
+    <message>
+        <source>Group outputs</source>
+        <translation>组输出</translation>
+    </message>
+    <message>
+        <source>Analogue inputs</source>
+        <translation>模拟输入</translation>
+    </message>
+    <message>
+        <source>Analogue outputs</source>
+        <translation>模拟输出</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <comment>signal</comment>
+        <translation>接通</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <comment>signal</comment>
+        <translation>断开</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::IoSignalsPart</name>
+    <message>
+        <source>Select an input to force it.</source>
+        <translation>选择一个输入以将其强制。</translation>
+    </message>
+    <message>
+        <source>Select an output to switch it.</source>
+        <translation>选择一个输出以切换它。</translation>
+    </message>
+</context>
+<context>
     <name>pendant::JogPage</name>
     <message>
         <source>Jog</source>
@@ -193,6 +497,10 @@
         <translation>示教器过于繁忙，未能保持按键信号，机器人已停止。</translation>
     </message>
     <message>
+        <source>The robot stopped because its drives went off.</source>
+        <translation>驱动已关闭，机器人已停止。</translation>
+    </message>
+    <message>
         <source>The robot stopped: %1</source>
         <translation>机器人已停止：%1</translation>
     </message>
@@ -202,6 +510,21 @@
     <message>
         <source>No keys in use</source>
         <translation>按键未使用</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::LineTypes</name>
+    <message>
+        <source>The pattern is no regular expression: %1, at character %2. No line belongs to this type.</source>
+        <translation>模式不是正则表达式：%1（第 %2 个字符）。没有程序行属于此类型。</translation>
+    </message>
+    <message>
+        <source>The pattern gave up on a line of %1 characters; the line counts as none of this type.</source>
+        <translation>模式在处理一个 %1 个字符的行时放弃；该行不算作此类型。</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>其他</translation>
     </message>
 </context>
 <context>
@@ -271,6 +594,185 @@
     </message>
 </context>
 <context>
+    <name>pendant::LogChooser</name>
+    <message>
+        <source>Log</source>
+        <translation>日志</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>日期</translation>
+    </message>
+    <message>
+        <source>All days</source>
+        <translation>所有日期</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::LogFilterBar</name>
+    <message>
+        <source>All levels</source>
+        <translation>所有级别</translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Without service</source>
+        <translation>不含服务</translation>
+    </message>
+    <message>
+        <source>Service</source>
+        <translation>服务</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>信息</translation>
+    </message>
+    <message>
+        <source>Other lines</source>
+        <translation>其他行</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>级别</translation>
+    </message>
+    <message>
+        <source>Module</source>
+        <translation>模块</translation>
+    </message>
+    <message>
+        <source>Find text</source>
+        <translation>查找文本</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>清除</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::LogPage</name>
+    <message>
+        <source>Log</source>
+        <translation>日志</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>文件夹</translation>
+    </message>
+    <message>
+        <source>Newest lines</source>
+        <translation>最新行</translation>
+    </message>
+    <message>
+        <source>Lines of the log</source>
+        <translation>日志行</translation>
+    </message>
+    <message>
+        <source>The line in full</source>
+        <translation>完整的行</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>正在搜索</translation>
+    </message>
+    <message>
+        <source>What is found appears here, the newest first.</source>
+        <translation>找到的内容显示在这里，最新的在前。</translation>
+    </message>
+    <message>
+        <source>Nothing matches the filter</source>
+        <translation>没有符合筛选条件的内容</translation>
+    </message>
+    <message>
+        <source>All levels, or other text, brings back what is hidden.</source>
+        <translation>选择所有级别或更改文本，即可重新显示隐藏的内容。</translation>
+    </message>
+    <message>
+        <source>The log cannot be read</source>
+        <translation>无法读取日志</translation>
+    </message>
+    <message>
+        <source>Nothing logged yet</source>
+        <translation>还没有日志</translation>
+    </message>
+    <message>
+        <source>What plugins and the pendant write with their log streams appears here, from all “.log” files below this folder. The first line makes the file.</source>
+        <translation>插件和示教器用日志流写入的内容显示在这里，来自此文件夹下所有“.log”文件。写入第一行时会创建文件。</translation>
+    </message>
+    <message>
+        <source>%1   %2 in %3 files</source>
+        <translation>%1   %2，共 %3 个文件</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+    <message>
+        <source>Nothing is that late; these are the newest lines.</source>
+        <translation>没有那么晚的内容；这些是最新的行。</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>实时</translation>
+    </message>
+    <message>
+        <source>Searching: %1 % looked at, %2 found</source>
+        <translation>正在搜索：已查看 %1 %，找到 %2 条</translation>
+    </message>
+    <message>
+        <source>The newest %1 are shown</source>
+        <translation>显示最新的 %1 条</translation>
+    </message>
+    <message>
+        <source>Stopped: %1 % looked at, %2 found</source>
+        <translation>已停止：已查看 %1 %，找到 %2 条</translation>
+    </message>
+    <message>
+        <source>%1 found</source>
+        <translation>找到 %1 条</translation>
+    </message>
+    <message>
+        <source>Live; %1 is written to as well</source>
+        <translation>实时；同时也在写入 %1</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::LogTimeBar</name>
+    <message>
+        <source>Time to go to</source>
+        <translation>要跳转到的时间</translation>
+    </message>
+    <message>
+        <source>Go to this time</source>
+        <translation>跳转到此时间</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::LogView</name>
+    <message>
+        <source>Service</source>
+        <translation>服务</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>信息</translation>
+    </message>
+</context>
+<context>
     <name>pendant::MessageLine</name>
     <message>
         <source>Messages: %1</source>
@@ -333,6 +835,49 @@
     <message>
         <source>What the pendant and its plugins have to tell appears here, the newest first.</source>
         <translation>示教器及其插件的消息显示在这里，最新的排在最前。</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::MoveWidget</name>
+    <message>
+        <source>Choose the point to move to, or type its name.</source>
+        <translation>请选择目标点，或输入其名称。</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>点位</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>速度</translation>
+    </message>
+    <message>
+        <source>Zone</source>
+        <translation>过渡区</translation>
+    </message>
+    <message>
+        <source>Tool</source>
+        <translation>工具</translation>
+    </message>
+    <message>
+        <source>Work object</source>
+        <translation>工件</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>How far from the point the robot may leave its path for the next move</source>
+        <translation>距目标点多远时机器人可离开路径转入下一段运动</translation>
+    </message>
+    <message>
+        <source>Name of a point</source>
+        <translation>点位名称</translation>
+    </message>
+    <message>
+        <source>Selected</source>
+        <translation>当前所选</translation>
     </message>
 </context>
 <context>
@@ -414,6 +959,33 @@
     </message>
 </context>
 <context>
+    <name>pendant::OutputWidget</name>
+    <message>
+        <source>Type the name of the output.</source>
+        <translation>请输入输出的名称。</translation>
+    </message>
+    <message>
+        <source>Digital output</source>
+        <translation>数字输出</translation>
+    </message>
+    <message>
+        <source>Name of the signal</source>
+        <translation>信号名称</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>开</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>关</translation>
+    </message>
+</context>
+<context>
     <name>pendant::OwnPages</name>
     <message>
         <source>Pendant</source>
@@ -446,6 +1018,26 @@
     <message>
         <source>Points</source>
         <translation>点位</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>程序</translation>
+    </message>
+    <message>
+        <source>Signals</source>
+        <translation>信号</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>日志</translation>
+    </message>
+    <message>
+        <source>Robot</source>
+        <translation>机器人</translation>
+    </message>
+    <message>
+        <source>Projects</source>
+        <translation>项目</translation>
     </message>
 </context>
 <context>
@@ -603,6 +1195,469 @@
     </message>
 </context>
 <context>
+    <name>pendant::Program</name>
+    <message>
+        <source>A line break cannot stand within a program line.</source>
+        <translation>程序行中不能有换行符。</translation>
+    </message>
+    <message>
+        <source>A null character cannot stand in a program line.</source>
+        <translation>程序行中不能有空字符。</translation>
+    </message>
+    <message>
+        <source>Half of a character cannot stand in a program line.</source>
+        <translation>程序行中不能有不完整的字符。</translation>
+    </message>
+    <message>
+        <source>Insert line</source>
+        <translation>插入行</translation>
+    </message>
+    <message>
+        <source>Delete line</source>
+        <translation>删除行</translation>
+    </message>
+    <message>
+        <source>Change line</source>
+        <translation>更改行</translation>
+    </message>
+    <message>
+        <source>Move line</source>
+        <translation>移动行</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::ProgramContent</name>
+    <message>
+        <source>Its creator threw: %1</source>
+        <translation>其创建函数抛出：%1</translation>
+    </message>
+    <message>
+        <source>Its creator made no widget.</source>
+        <translation>其创建函数没有生成控件。</translation>
+    </message>
+    <message>
+        <source>%1 threw: %2</source>
+        <translation>%1 抛出：%2</translation>
+    </message>
+    <message>
+        <source>Its widget deleted itself in %1.</source>
+        <translation>其控件在 %1 中删除了自己。</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::ProgramDelegate</name>
+    <message>
+        <source>Empty line</source>
+        <translation>空行</translation>
+    </message>
+    <message>
+        <source>No instruction knows this line</source>
+        <translation>没有指令识别这一行</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::ProgramEditor</name>
+    <message>
+        <source>It can be moved and deleted.</source>
+        <translation>可以移动和删除。</translation>
+    </message>
+    <message>
+        <source>“%1” brings no widget to insert it with.</source>
+        <translation>“%1”没有提供插入用的控件。</translation>
+    </message>
+    <message>
+        <source>“%1” brings no widget to edit its lines.</source>
+        <translation>“%1”没有提供编辑其程序行的控件。</translation>
+    </message>
+    <message>
+        <source>“%1” could not be opened. The messages say why.</source>
+        <translation>无法打开“%1”。原因见消息列表。</translation>
+    </message>
+    <message>
+        <source>“%1” failed. The messages say why.</source>
+        <translation>“%1”出错。原因见消息列表。</translation>
+    </message>
+    <message>
+        <source>Insert</source>
+        <translation>插入</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>应用</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>还原</translation>
+    </message>
+    <message>
+        <source>Also matches: %1</source>
+        <translation>同时匹配：%1</translation>
+    </message>
+    <message>
+        <source>It is kept as it is, and can be moved and deleted. It may belong to a plugin that is not loaded.</source>
+        <translation>该行保持原样，可以移动和删除。它可能属于未加载的插件。</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::ProgramFile</name>
+    <message>
+        <source>The program %1 was not opened: %2</source>
+        <translation>未打开程序 %1：%2</translation>
+    </message>
+    <message>
+        <source>it is no file.</source>
+        <translation>它不是文件。</translation>
+    </message>
+    <message>
+        <source>it is no text in UTF-8.</source>
+        <translation>它不是 UTF-8 文本。</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>第 %1 行：%2</translation>
+    </message>
+    <message>
+        <source>it is longer than %1 MiB.</source>
+        <translation>它超过 %1 MiB。</translation>
+    </message>
+    <message>
+        <source>The program was not written to %1: %2</source>
+        <translation>程序未写入 %1：%2</translation>
+    </message>
+    <message>
+        <source>its folder cannot be made.</source>
+        <translation>无法创建其文件夹。</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::ProgramPage</name>
+    <message>
+        <source>Program</source>
+        <translation>程序</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Save the program (Ctrl+S)</source>
+        <translation>保存程序 (Ctrl+S)</translation>
+    </message>
+    <message>
+        <source>Select a line to edit it.</source>
+        <translation>选择一行进行编辑。</translation>
+    </message>
+    <message>
+        <source>No lines yet</source>
+        <translation>还没有程序行</translation>
+    </message>
+    <message>
+        <source>The lines of the robot program stand here. Press “Insert” and choose an instruction for the first one.</source>
+        <translation>机器人程序的各行显示在这里。按“插入”，为第一行选择一条指令。</translation>
+    </message>
+    <message>
+        <source>Empty line</source>
+        <translation>空行</translation>
+    </message>
+    <message>
+        <source>No instruction knows this line</source>
+        <translation>没有指令识别这一行</translation>
+    </message>
+    <message>
+        <source>No program is open</source>
+        <translation>没有打开的程序</translation>
+    </message>
+    <message>
+        <source>Becomes the first line</source>
+        <translation>将成为第一行</translation>
+    </message>
+    <message>
+        <source>Becomes line %1</source>
+        <translation>将成为第 %1 行</translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation>第 %1 行</translation>
+    </message>
+    <message>
+        <source>● %1, not saved</source>
+        <translation>● %1，未保存</translation>
+    </message>
+    <message>
+        <source>Changes from before that were not saved are in the program again. Save them, or take them back with undo.</source>
+        <translation>上次未保存的更改已重新载入程序。请保存，或用“撤销”取消。</translation>
+    </message>
+    <message>
+        <source>The robot program of the open project is edited here. The project comes from the controller when the links are up. %1</source>
+        <translation>在此编辑当前项目的机器人程序。连接建立后，项目由控制器提供。%1</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::ProgramPicker</name>
+    <message>
+        <source>Choose an instruction</source>
+        <translation>选择指令</translation>
+    </message>
+    <message>
+        <source>Find by name</source>
+        <translation>按名称查找</translation>
+    </message>
+    <message>
+        <source>No instruction of this name</source>
+        <translation>没有该名称的指令</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::ProgramPlace</name>
+    <message>
+        <source>No project is open.</source>
+        <translation>没有打开的项目。</translation>
+    </message>
+    <message>
+        <source>The project&apos;s name “%1” leads out of the workspace.</source>
+        <translation>项目名称“%1”指向工作区之外。</translation>
+    </message>
+    <message>
+        <source>The program&apos;s name “%1” leads out of the project.</source>
+        <translation>程序名称“%1”指向项目之外。</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::ProgramStore</name>
+    <message>
+        <source>Take up unsaved changes</source>
+        <translation>恢复未保存的更改</translation>
+    </message>
+    <message>
+        <source>It was renamed to %1.</source>
+        <translation>已重命名为 %1。</translation>
+    </message>
+    <message>
+        <source>The program was not written: its project was deleted.</source>
+        <translation>程序未写入：其项目已被删除。</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::ProgramTools</name>
+    <message>
+        <source>Insert</source>
+        <translation>插入</translation>
+    </message>
+    <message>
+        <source>Insert a line below (Ins)</source>
+        <translation>在下方插入一行 (Ins)</translation>
+    </message>
+    <message>
+        <source>Delete the line (Del)</source>
+        <translation>删除该行 (Del)</translation>
+    </message>
+    <message>
+        <source>Move the line up (Ctrl+Up)</source>
+        <translation>上移该行 (Ctrl+Up)</translation>
+    </message>
+    <message>
+        <source>Move the line down (Ctrl+Down)</source>
+        <translation>下移该行 (Ctrl+Down)</translation>
+    </message>
+    <message>
+        <source>Undo (Ctrl+Z)</source>
+        <translation>撤销 (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>Undo: %1 (Ctrl+Z)</source>
+        <translation>撤销：%1 (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>Redo (Ctrl+Y)</source>
+        <translation>重做 (Ctrl+Y)</translation>
+    </message>
+    <message>
+        <source>Redo: %1 (Ctrl+Y)</source>
+        <translation>重做：%1 (Ctrl+Y)</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::ProgramTour</name>
+    <message>
+        <source>No program is open.</source>
+        <translation>没有打开的程序。</translation>
+    </message>
+    <message>
+        <source>“%1” is not offered.</source>
+        <translation>没有提供“%1”。</translation>
+    </message>
+    <message>
+        <source>A new line of “%1”.</source>
+        <translation>“%1”的新行。</translation>
+    </message>
+    <message>
+        <source>“%1” refuses the line as it is.</source>
+        <translation>“%1”拒绝当前的行。</translation>
+    </message>
+    <message>
+        <source>“%1” refuses the line with what the tour filled in.</source>
+        <translation>“%1”拒绝巡览所填写的行。</translation>
+    </message>
+    <message>
+        <source>Inserted a line of “%1”.</source>
+        <translation>插入了“%1”的一行。</translation>
+    </message>
+    <message>
+        <source>The line of “%1” was applied as it was.</source>
+        <translation>“%1”的行未作更改。</translation>
+    </message>
+    <message>
+        <source>Edited the line of “%1”.</source>
+        <translation>编辑了“%1”的行。</translation>
+    </message>
+    <message>
+        <source>Took the edit back.</source>
+        <translation>撤销了编辑。</translation>
+    </message>
+    <message>
+        <source>Saved the program.</source>
+        <translation>保存了程序。</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::ProgramWriter</name>
+    <message>
+        <source>“%1” refuses this line.</source>
+        <translation>“%1”拒绝这一行。</translation>
+    </message>
+    <message>
+        <source>The pattern of “%1” does not match the line that it made: it will not be recognised as one of its lines.</source>
+        <translation>“%1”的模式与其生成的行不匹配：该行不会被识别为它的程序行。</translation>
+    </message>
+    <message>
+        <source>Its line: %1</source>
+        <translation>其生成的行：%1</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::ProjectDetails</name>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>Keep it</source>
+        <translation>保留</translation>
+    </message>
+    <message>
+        <source>Delete for good</source>
+        <translation>永久删除</translation>
+    </message>
+    <message>
+        <source>Delete it with its variables, points and programs? It cannot be brought back.</source>
+        <translation>连同其变量、点位和程序一起删除？删除后无法恢复。</translation>
+    </message>
+    <message>
+        <source>This project is open. Open another one before you delete it.</source>
+        <translation>该项目已打开。删除前请先打开另一个项目。</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::ProjectForm</name>
+    <message>
+        <source>New project</source>
+        <translation>新建项目</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>说明</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Create and open</source>
+        <translation>新建并打开</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::ProjectMirror</name>
+    <message>
+        <source>The project %1 was not opened: the controller does not answer.</source>
+        <translation>项目 %1 未打开：控制器没有应答。</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::ProjectsModel</name>
+    <message>
+        <source>Open</source>
+        <translation>已打开</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Created</source>
+        <translation>创建时间</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>说明</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::ProjectsPage</name>
+    <message>
+        <source>Projects</source>
+        <translation>项目</translation>
+    </message>
+    <message>
+        <source>New project</source>
+        <translation>新建项目</translation>
+    </message>
+    <message>
+        <source>Select a project to open or delete it.</source>
+        <translation>选择一个项目以打开或删除。</translation>
+    </message>
+    <message>
+        <source>No connection: these are the projects that were there last.</source>
+        <translation>未连接：这里显示的是最后一次读取的项目。</translation>
+    </message>
+    <message>
+        <source>No projects</source>
+        <translation>没有项目</translation>
+    </message>
+    <message>
+        <source>The projects of this robot are listed here, a folder each in the workspace. Press “New project” to make one.</source>
+        <translation>这里列出该机器人的项目，每个项目是工作区中的一个文件夹。按“新建项目”创建。</translation>
+    </message>
+    <message>
+        <source>No connection to the robot</source>
+        <translation>未连接机器人</translation>
+    </message>
+    <message>
+        <source>The projects of this robot are listed here as soon as both links are up. “Links” in the developer dock (F12) brings them up.</source>
+        <translation>两个连接都建立后，这里列出该机器人的项目。可在开发者面板 (F12) 的“连接”中建立连接。</translation>
+    </message>
+</context>
+<context>
     <name>pendant::RecordsPage</name>
     <message>
         <source>Find by name</source>
@@ -619,6 +1674,61 @@
     <message>
         <source>Clear the field above to see all.</source>
         <translation>清空上方的输入框即可查看全部。</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::RobotPage</name>
+    <message>
+        <source>Robot</source>
+        <translation>机器人</translation>
+    </message>
+    <message>
+        <source>Front</source>
+        <comment>view of the robot</comment>
+        <translation>正面</translation>
+    </message>
+    <message>
+        <source>Side</source>
+        <comment>view of the robot</comment>
+        <translation>侧面</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <comment>view of the robot</comment>
+        <translation>顶部</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <comment>view of the robot</comment>
+        <translation>显示全部</translation>
+    </message>
+    <message>
+        <source>Drag to turn, pinch to zoom, two fingers to shift.</source>
+        <translation>拖动旋转，双指缩放和平移。</translation>
+    </message>
+    <message>
+        <source>No robot</source>
+        <translation>没有机器人</translation>
+    </message>
+    <message>
+        <source>The robot is drawn here. This controller does not tell what its robot looks like (“robot.arm”).</source>
+        <translation>机器人显示在此处。该控制器没有提供机器人的外形（“robot.arm”）。</translation>
+    </message>
+    <message>
+        <source>No connection to the robot</source>
+        <translation>未连接到机器人</translation>
+    </message>
+    <message>
+        <source>The robot is drawn here as soon as the links to the bus and to the controller are up. “Links” in the developer dock (F12) brings them up.</source>
+        <translation>总线和控制器连接建立后，机器人将显示在此处。可在开发者窗口（F12）的“连接”页中建立连接。</translation>
+    </message>
+    <message>
+        <source>Joints %1 °</source>
+        <translation>关节 %1 °</translation>
+    </message>
+    <message>
+        <source>X %1  Y %2  Z %3 mm in %4</source>
+        <translation>X %1  Y %2  Z %3 mm，%4</translation>
     </message>
 </context>
 <context>
@@ -818,6 +1928,34 @@
         <source>Off</source>
         <comment>drive power</comment>
         <translation>关</translation>
+    </message>
+    <message>
+        <source>Robot</source>
+        <translation>机器人</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>手动</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>自动</translation>
+    </message>
+    <message>
+        <source>Standing</source>
+        <translation>静止</translation>
+    </message>
+    <message>
+        <source>Moving</source>
+        <translation>运动中</translation>
+    </message>
+    <message>
+        <source>Stopping</source>
+        <translation>停止中</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
     </message>
 </context>
 <context>
@@ -1289,6 +2427,13 @@
     </message>
 </context>
 <context>
+    <name>pendant::WaitWidget</name>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+</context>
+<context>
     <name>pendant::WorkFolder</name>
     <message>
         <source>The folder %1 cannot be made. Name another one with --work.</source>
@@ -1297,6 +2442,53 @@
     <message>
         <source>The folder %1 cannot be entered. Name another one with --work.</source>
         <translation>无法进入文件夹 %1。请用 --work 指定其他文件夹。</translation>
+    </message>
+</context>
+<context>
+    <name>pendant::Workspace</name>
+    <message>
+        <source>Type a name.</source>
+        <translation>请输入名称。</translation>
+    </message>
+    <message>
+        <source>“_temp” is kept for the pendant itself. Choose another name.</source>
+        <translation>“_temp”由示教器自身保留。请另选名称。</translation>
+    </message>
+    <message>
+        <source>A name has no “/” and is neither “.” nor “..”.</source>
+        <translation>名称不能包含“/”，也不能是“.”或“..”。</translation>
+    </message>
+    <message>
+        <source>A name does not begin with a dot: the folder would be hidden.</source>
+        <translation>名称不能以点开头，否则文件夹会被隐藏。</translation>
+    </message>
+    <message>
+        <source>A name has no blanks at its ends and no letters that cannot be seen.</source>
+        <translation>名称首尾不能有空格，也不能包含不可见字符。</translation>
+    </message>
+    <message>
+        <source>A name has at most %1 letters.</source>
+        <translation>名称最多 %1 个字符。</translation>
+    </message>
+    <message>
+        <source>There is a project “%1” already.</source>
+        <translation>项目“%1”已存在。</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be made.</source>
+        <translation>无法创建文件夹 %1。</translation>
+    </message>
+    <message>
+        <source>The description of “%1” was not written.</source>
+        <translation>未能写入“%1”的说明。</translation>
+    </message>
+    <message>
+        <source>There is no project “%1”.</source>
+        <translation>没有项目“%1”。</translation>
+    </message>
+    <message>
+        <source>The project “%1” was not deleted completely: something in %2 cannot be deleted.</source>
+        <translation>项目“%1”未能完全删除：%2 中有无法删除的内容。</translation>
     </message>
 </context>
 </TS>

@@ -23,7 +23,8 @@ kite_test(tst_tour_press.cpp LIBRARIES pendantPlugins
 # The whole pendant as people start it.
 if(TARGET kite-pendant)
     kite_test(tst_tour.cpp LIBRARIES Qt5::Gui LABELS native
-        PLUGINS fixture_pair fixture_touring fixture_throwsinit fixture_throwsidle fixture_throwshandler fixture_crashing fixture_nothing)
+        PLUGINS gripper fixture_pair fixture_touring fixture_throwsinit fixture_throwsidle fixture_throwshandler
+            fixture_crashing fixture_nothing)
     add_dependencies(tst_tour kite-pendant)
     target_compile_definitions(tst_tour PRIVATE PENDANT="$<TARGET_FILE:kite-pendant>")
 endif()

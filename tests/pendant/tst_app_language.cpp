@@ -104,8 +104,9 @@ void TestLanguage::noButtonOfThePendantIsCut() {
     QFETCH(QString, code);
     Frame frame;
     QVERIFY(app()->setLanguage(code));
-    const QStringList pages{pendant::pagekeys::start(),  pendant::pagekeys::jog(),      pendant::pagekeys::variables(),
-                            pendant::pagekeys::points(), pendant::pagekeys::messages(), pendant::pagekeys::settings()};
+    const QStringList pages{pendant::pagekeys::start(),   pendant::pagekeys::jog(),      pendant::pagekeys::variables(),
+                            pendant::pagekeys::points(),  pendant::pagekeys::messages(), pendant::pagekeys::log(),
+                            pendant::pagekeys::settings()};
     for (const QString& page : pages) {
         frame.window->showPage(page);
         Frame::settle();

@@ -211,6 +211,10 @@ void TestJogPage::theStateIsInWords_data() {
                                  << "singularity";
     QTest::newRow("not renewed") << false << "not renewed"
                                  << "busy";
+    QTest::newRow("drives off") << false << "drives off"
+                                << "drives went off";
+    QTest::newRow("a move is over") << false << "arrived"
+                                    << "stands still";
     QTest::newRow("something else") << false << "door open"
                                     << "door open";
 }

@@ -59,7 +59,7 @@ void TestTheme::textStandsOutFromWhatItStandsOn_data() {
     QTest::addColumn<double>("least");
     const QStringList grounds{"window", "panel", "field"};
     for (const QString& ground : grounds) {
-        for (const QString& text : QStringList{"text", "textDim", "good", "warning", "error"})
+        for (const QString& text : QStringList{"text", "textDim", "good", "warning", "error", "service"})
             QTest::newRow(qPrintable(text + " on " + ground)) << text << ground << 4.5;
         // What can be told from its ground need not be read.
         QTest::newRow(qPrintable("outline on " + ground)) << "outline" << ground << 3.0;
