@@ -99,6 +99,12 @@ QString nameOf(const QString& operation) {
     return operation.section('(', 0, 0).section("::", -1);
 }
 
+// "operator<<" is used as "<<".
+QString useOf(const QString& name) {
+    const QString sign = "operator";
+    return name.startsWith(sign) ? QRegularExpression::escape(name.mid(sign.size())) : "\\b" + name + "\\b";
+}
+
 } // namespace
 
 // Every operation that the library exports has a test that calls it and a place that shows it to plugin authors.
@@ -179,7 +185,7 @@ void Operations::theExampleOfARowShowsTheOperation_data() {
 void Operations::theExampleOfARowShowsTheOperation() {
     QFETCH(QString, operation);
     QFETCH(QString, where);
-    const QRegularExpression use("\\b" + nameOf(operation) + "\\b");
+    const QRegularExpression use(useOf(nameOf(operation)));
     QVERIFY2(use.match(textBelow(where)).hasMatch(), qPrintable(where + " does not show it"));
 }
 
