@@ -2,8 +2,6 @@
 
 #include "brisk/modulemanager.h"
 
-#include <QPointer>
-
 namespace kite {
 
 using brisk::ModuleObject;
@@ -17,13 +15,12 @@ int announcedIndex(const ModuleObject* list) {
 
 } // namespace
 
-void announcePoint(QObject* sender, const ModuleObject* list, const QString& operation) {
-    const int index = announcedIndex(list);
+void announcePoint(QObject* sender, const QPointer<ModuleObject>& list, const QString& operation) {
     const QPointer<ModuleObject> points = m(QStringLiteral("orca.project.point.hot_update.points"));
     if (points)
         points->clear(nullptr, true, false);
     if (points)
-        points->set(sender, QStringLiteral("#0"), index);
+        points->set(sender, QStringLiteral("#0"), announcedIndex(list));
     if (ModuleObject* operate = m(QStringLiteral("orca.project.point.hot_update.operate")))
         operate->setValue(sender, operation);
 }

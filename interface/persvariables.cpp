@@ -23,12 +23,15 @@ bool hasPersService() {
     return isHelm23Or30Or31();
 }
 
-ModuleObject* readPers(QObject* sender, const QVector<QString>& names) {
+// The request stays until the values are read: the host may answer with that very node.
+void readPers(QObject* sender, const QVector<QString>& names, QVector<QString>* values) {
     ModuleObject node(QStringLiteral("names"));
     const QJsonArray array = QJsonArray::fromStringList(names.toList());
     node.importFromJson(sender, array, /*notify*/ true, /*create*/ true, /*prune*/ false);
-    ModuleObject* reply = relay()->execCommand(sender, QStringLiteral("monitor.pers.read"), &node);
-    return reply ? reply->c(QStringLiteral("data")) : nullptr;
+    ModuleObject* data = below(relay()->execCommand(sender, QStringLiteral("monitor.pers.read"), &node), {"data"});
+    const int count = data ? qMin(data->cmobjCount(), values->size()) : 0;
+    for (int i = 0; i < count; ++i)
+        (*values)[i] = textOf(data->c(i));
 }
 
 } // namespace
@@ -51,10 +54,8 @@ QVector<QVariant> InterfaceManager::getRegistedPERSVars() {
 
 QVector<QString> InterfaceManager::getValuesOfPERSVars(const QVector<QString>& names) {
     QVector<QString> values(names.size(), QLatin1String(""));
-    ModuleObject* data = hasPersService() ? readPers(this, names) : nullptr;
-    const int count = data ? qMin(data->cmobjCount(), values.size()) : 0;
-    for (int i = 0; i < count; ++i)
-        values[i] = textOf(data->c(i));
+    if (hasPersService())
+        readPers(this, names, &values);
     hostline::service(hostline::interfaceModule())
         << "Results:" << QStringList(values.toList()).join(QLatin1String(", "));
     return values;

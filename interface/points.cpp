@@ -102,14 +102,16 @@ bool InterfaceManager::checkPointSame(const QString& first, const QString& secon
 }
 
 void InterfaceManager::changeCartPoint(const QString& name, const QVector<double>& pose) {
+    // A copy: who hears of a number may change what was passed, as a page does that shows the pose.
+    const QVector<double> numbers = pose;
     const QPointer<ModuleObject> list = points();
     ModuleObject* point = findRecord(list, name, Qt::CaseInsensitive);
-    if (!point || pose.size() < poseSize)
+    if (!point || numbers.size() < poseSize)
         return;
     const PoseLeaves leaves = poseLeaves(point);
     for (size_t i = 0; i < leaves.size(); ++i) {
         if (leaves[i])
-            leaves[i]->setValue(this, pose.at(int(i)));
+            leaves[i]->setValue(this, numbers.at(int(i)));
     }
     announcePoint(this, list, QStringLiteral("edit"));
 }

@@ -78,7 +78,7 @@ std::unique_ptr<ModuleObject> newRecord(ModuleObject* list) {
 }
 
 void copyTemplate(ModuleObject* list, ModuleObject* record) {
-    ModuleObject* parent = list->pmobj();
+    ModuleObject* parent = list ? list->pmobj() : nullptr;
     const ModuleObject* pattern = parent ? parent->cmobj(QStringLiteral("default")) : nullptr;
     if (pattern)
         record->copyFrom(pattern);

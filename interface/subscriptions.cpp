@@ -55,18 +55,20 @@ bool InterfaceManager::connectRelayData(const QString& pluginName, const QString
         return true;
     }
 
-    d->subscriberMap.insert(serviceKey, QStringList());
-    const QMetaObject::Connection connection = d->follow(serviceKey);
+    // A copy: who hears of the watch may change what was passed.
+    const QString key = serviceKey;
+    d->subscriberMap.insert(key, QStringList());
+    const QMetaObject::Connection connection = d->follow(key);
     if (!connection) {
-        hostline::service(QString()) << "connectRelayData failed: connect signal failed for " << serviceKey;
+        hostline::service(QString()) << "connectRelayData failed: connect signal failed for " << key;
         const auto refused = d->callbackMap.take(name);
-        d->subscriberMap.remove(serviceKey);
+        d->subscriberMap.remove(key);
         return false;
     }
-    d->connectionMap.insert(serviceKey, connection);
-    hostline::service(QString()) << "connectRelayData - serviceKey : " << serviceKey;
-    relay()->watch(nullptr, serviceKey, true);
-    d->subscriberMap[serviceKey].append(name);
+    d->connectionMap.insert(key, connection);
+    hostline::service(QString()) << "connectRelayData - serviceKey : " << key;
+    relay()->watch(nullptr, key, true);
+    d->subscriberMap[key].append(name);
     return true;
 }
 

@@ -18,7 +18,7 @@ namespace {
 
 const int positionTimeoutMs = 1600;
 
-// "inner_pos.#", 0, 2 -> "inner_pos.#0", "inner_pos.#1"
+// "conf.cf", 1, 2 -> "conf.cf1", "conf.cf2"
 QStringList numbered(const QString& prefix, int first, int count) {
     QStringList keys;
     for (int i = first; i < first + count; ++i)
@@ -26,12 +26,23 @@ QStringList numbered(const QString& prefix, int first, int count) {
     return keys;
 }
 
-QStringList jointKeys() {
-    return numbered(QStringLiteral("inner_pos.#"), 0, 7);
+// A list of axes: where it stands and how long it is.
+struct Axes {
+    QString list;
+    int count;
+    QStringList keys() const { return numbered(list + QStringLiteral(".#"), 0, count); }
+};
+
+Axes robotJoints() {
+    return {QStringLiteral("inner_pos"), 7};
 }
 
-QStringList externalKeys() {
-    return numbered(QStringLiteral("extern_pos.#"), 0, 6);
+Axes externalAxes() {
+    return {QStringLiteral("extern_pos"), 6};
+}
+
+Axes externalAxesOfPose() {
+    return {QStringLiteral("external_joint"), 6};
 }
 
 QStringList cartesianKeys() {
@@ -51,13 +62,13 @@ public:
           m_cartesian(part(reply, QStringLiteral("cartesian"))) {}
 
     void writeJoint() {
-        copy(m_joint, jointKeys(), jointKeys());
-        copy(m_joint, externalKeys(), externalKeys());
+        copyAxes(robotJoints(), robotJoints());
+        copyAxes(externalAxes(), externalAxes());
     }
     void writeCartesian() {
         copy(m_cartesian, cartesianKeys(), cartesianKeys());
         // Intended: the external axes stand in the joint part of the reply, also for a Cartesian point.
-        copy(m_joint, externalKeys(), numbered(QStringLiteral("external_joint.#"), 0, 6));
+        copyAxes(externalAxes(), externalAxesOfPose());
     }
 
 private:
@@ -72,6 +83,13 @@ private:
     void copy(ModuleObject* source, const QStringList& from, const QStringList& to) {
         for (int i = 0; i < from.size(); ++i)
             m_position->set(m_sender, to.at(i), number(source, from.at(i)));
+    }
+
+    // The template may have more axes than there are, or lack some: of a list with a gap, items cannot be set.
+    void copyAxes(const Axes& from, const Axes& to) {
+        if (ModuleObject* list = m_position->rmobj(to.list))
+            list->clear(nullptr, false, true);
+        copy(m_joint, from.keys(), to.keys());
     }
 
     QObject* m_sender;
@@ -118,8 +136,12 @@ void removePoints(const QPointer<ModuleObject>& list, const QString& name) {
 bool InterfaceManager::addCurrentPoint(const QString& name, bool isJoint, const QString& tool, const QString& wobj) {
     if (!controllerManager()->controllerConnected())
         return false;
+    // Copies: who hears that a point goes may change what was passed, as what is selected on a page changes.
+    const QString pointName = name;
+    const QString toolName = tool;
+    const QString wobjName = wobj;
     const QPointer<ModuleObject> list = m(QStringLiteral("orca.project.point._list"));
-    removePoints(list, name);
+    removePoints(list, pointName);
     if (!list)
         return false;
 
@@ -127,14 +149,14 @@ bool InterfaceManager::addCurrentPoint(const QString& name, bool isJoint, const 
     record->watch(true, false);
     copyTemplate(list, record.get());
     record->set(this, QStringLiteral("id"), list->cmobjCount());
-    describe(this, record.get(), name, isJoint);
+    describe(this, record.get(), pointName, isJoint);
 
-    ModuleObject* reply = askPosition(tool, wobj);
+    ModuleObject* reply = askPosition(toolName, wobjName);
     if (ModuleObject* position = positionOf(this, record.get())) {
         Taught taught(this, position, reply);
         isJoint ? taught.writeJoint() : taught.writeCartesian();
-        position->set(this, QStringLiteral("coord.tool"), tool);
-        position->set(this, QStringLiteral("coord.wobj"), wobj);
+        position->set(this, QStringLiteral("coord.tool"), toolName);
+        position->set(this, QStringLiteral("coord.wobj"), wobjName);
     }
     appendRecord(this, list, std::move(record));
     announcePoint(this, list, QStringLiteral("add"));

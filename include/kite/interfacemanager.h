@@ -49,8 +49,8 @@ public:
     ///                 when the first of them goes down, not again for the other one and not at once
     /// \param name     what the id is made of when `taskId` is empty
     /// \param owner    the registration ends with this object; not owned. Null for none: then you end it
-    /// \param handler  called on the user-interface thread, each time. An empty one throws std::bad_function_call when
-    ///                 its time comes, into the pendant, which reports it, as it does what yours throws
+    /// \param handler  called on the user-interface thread, each time the same object. An empty one throws
+    ///                 std::bad_function_call then, into the pendant, which reports it, as it does what yours throws
     /// \param taskId   an id of your own, which replaces a registration of that id and kind, whoever made it; empty for
     ///                 a new one, `name` + "_" + a number that is unique in the process
     /// \return the id, for disconnectNetworkStatus()
@@ -101,12 +101,13 @@ public:
     ///
     /// \param pluginName the plugin's name
     /// \param serviceKey the key to follow
-    /// \param callback   gets the new value: a plain one as it is, a structure as a QJsonObject or QJsonArray. An empty
-    ///                   one is accepted here and throws std::bad_function_call when a change comes
+    /// \param callback   gets the new value: a plain one as it is, a structure as a QJsonObject or QJsonArray. It is a
+    ///                   copy that is called, a new one for each change: what it counts in itself (a mutable lambda)
+    ///                   is forgotten. An empty one is accepted and throws std::bad_function_call when a change comes
     /// \param connectKey tells the plugin's subscriptions apart, whatever key they follow. One with a dot works, but
     ///                   getConnectRelayKeyList() cuts it
-    /// \return false when the plugin has a subscription of that connect key, for whichever service key, and when the
-    ///         pendant has no such key to follow (a log line then); nothing has changed then
+    /// \return false when the plugin has a subscription of that connect key, for whichever service key, or the pendant
+    ///         refuses (a log line then): nothing has changed. **True for a key that nobody knows**: no change comes
     bool connectRelayData(const QString& pluginName, const QString& serviceKey,
                           std::function<void(const QVariant&)> callback, const QString& connectKey);
 
@@ -122,7 +123,7 @@ public:
     /// The connect keys of the plugin's subscriptions, in ascending order.
     ///
     /// Of a connect key with dots comes only what stands before the first: "axis.1" comes back as "axis", which does
-    /// not end it. A plugin name with a dot has no subscriptions by this list.
+    /// not end it. Those of a plugin name with a dot are in another's list: "page" of "weld.left" as "left" of "weld".
     QStringList getConnectRelayKeyList(const QString& pluginName);
 
     /// @}
@@ -130,7 +131,7 @@ public:
     /// @{
 
     /// The node of `key` in the pendant's data tree, with its children, as JSON. Needs no link.
-    /// \return Null when the node is empty or not there; asking makes it, as an empty one
+    /// \return Null when the node is empty or not there, `[]` for an empty list. Asking makes it, save a list's item
     QJsonValue getNodeData(const QString& key);
 
     /// @}
@@ -202,9 +203,11 @@ public:
     /// \return true, also when there is none
     bool updateVarData(const QString& name, QVariant value);
 
-    /// The point of that name as JSON: a point, not a variable. It searches the taught points, as
-    /// getPointObjDataByName() does. For a variable, take getNodeData() of "orca.project.var._list" and look for its
-    /// "name".
+    /// The point of that name as JSON: a point, not a variable. It searches the taught points, like
+    /// getPointObjDataByName(). For a variable, take getNodeData() of "orca.project.var._list" and look for its "name".
+    /// The two differ in three things. A name that is no plain text: here it is what it reads as ("5", "true"), there
+    /// the empty name. A "_list" that is no list: its parts are points here, not there. A list that was written as one
+    /// value, a JSON array without nodes: it is searched there, not here.
     /// \return an empty object when there is no point of that name
     QJsonObject getVarObjDataByName(const QString& name);
 
@@ -281,7 +284,8 @@ public:
     /// \param isJoint true: the joints; false: the pose in the work object, with configuration
     /// \param tool    the tool's name; \param wobj the work object's name
     /// \return false when the controller link is down (or the pendant has no list of points): nothing is changed then.
-    ///         Also false when somebody deletes the list as the old points go
+    ///         Also false when somebody deletes the list as the old points go. True, with nothing stored, when it is
+    ///         deleted while the controller answers, and when it refuses the point
     bool addCurrentPoint(const QString& name, bool isJoint, const QString& tool, const QString& wobj);
 
     /// The pose of the first point of exactly that name: x, y, z, a, b, c.
@@ -368,7 +372,8 @@ public:
     /// The values of the registers by their names. One without a name or a value is left out; of two with one name the
     /// later counts.
     QHash<QString, QStringList> getRegisterHash();
-    /// The registers as JSON: an array of objects with "name" and "value"; Null when there are none.
+    /// The registers as JSON: an array of objects with "name" and "value", also when it has become empty.
+    /// \return Null as long as the pendant has never had registers
     QJsonValue getRegisterValue();
 
     /// @}
@@ -381,9 +386,9 @@ public:
     /// nothing is sent, and `result` is the same: ask getRobotConnected() before.
     ///
     /// A start resets first and waits for the answer to that, as long as the bus allows. Then it has the bus watch that
-    /// key for the manager, until moveToStop(): one mark for all plugins, so two starts need one stop. Subscriptions
-    /// have marks of their own, which moveToStop() leaves alone. What is sent stands in the log as an error line,
-    /// though it is none.
+    /// key for the manager, until moveToStop(): one mark for all plugins, so two starts need one stop. The mark is set
+    /// with the bus down too, and goes out when the bus comes up. Subscriptions have marks of their own, which
+    /// moveToStop() leaves alone. What is sent stands in the log as an error line, though it is none.
     /// @{
 
     /// Starts a move **without a target**: a speed is sent and no pose, so the controller has nowhere to go. To move a
@@ -397,12 +402,21 @@ public:
 
     /// Starts a move to a point. Its pose is sent, all of it divided by 1000: x, **x once more in the place of y**, and
     /// z in mm become metres; a, b, c in degrees become thousands of degrees. So the robot goes to points with x = y,
-    /// and for all others to another place than the one that was taught. The tool and the work object are not sent. Of
-    /// a point without a pose, such as a joint point, no target is sent.
+    /// and for all others to another place than the one that was taught. The tool and the work object are not sent.
     ///
-    /// \param result   as with the other form
-    /// \param speed    in mm/s for a linear move; it is sent divided by 1000 and not looked at: 0 and less go out too
-    /// \param withConf true: the configuration of the point is sent too, eight numbers, 0 for what the point has not
+    /// **Zeros are a target too**, the origin of the work object: that is what a point holds that was taught while the
+    /// controller did not answer. Of a point without a pose no target is sent. A joint point has none, unless the
+    /// project's template gives points one to begin with; then that is sent, whatever the joints are. So look at
+    /// "property" (getPointObjDataByName()), which is "cart", and at the pose before.
+    ///
+    /// \param result    as with the other form
+    /// \param pointName as with the other form
+    /// \param speed     in mm/s for a linear move; for a joint move what the controller makes of it: the virtual one
+    ///                  takes thousandths of the full speed of the axes, up to 1000. It is sent divided by 1000 and not
+    ///                  looked at: 0 and less go out too
+    /// \param withConf  true: the configuration of the point is sent too, eight numbers, 0 for what the point has not,
+    ///                  also when there is no pose
+    /// \param joint     as with the other form
     void moveToStart(int& result, const QString& pointName, int speed, bool withConf, bool joint);
 
     /// Stops the move, whoever has started it, and takes back the manager's watch. Does not wait. With the bus down
@@ -437,17 +451,23 @@ public:
     ///                    "orca.toolpage,tool" (with a comma) holds the name of a global one, and the selected work
     ///                    object "wobjo", save when it is a global one: **none is called so**. Select others afterwards
     /// \return 0, also when the file could not be written; -1: the name is refused; -2: there is such a folder; -3: the
-    ///         folder could not be made. Unless it is 0, the pendant has not changed to it
+    ///         folder could not be made, though folders that lead to it may have been ("a" of "a/b"). Unless it is 0,
+    ///         the pendant has not changed to it
     int createProject(const QString& name, const QString& description, bool setCurrent);
 
-    /// Deletes the folder of a project with all that is in it, for good. Waits for the bus, and for the controller up
-    /// to 1600 ms when the project is the one that is loaded at the start, which is reset then.
+    /// Deletes the folder of a project with all that is in it, for good. Waits for the bus.
+    ///
+    /// **The project that is loaded at the start stays the one to load**, though it is gone:
+    /// "orca.project.autoload_prj_path" goes on naming it. A reset is prepared under one command's name and sent under
+    /// another's, without content, which the virtual controller takes and which changes nothing; that is waited for up
+    /// to 1600 ms. See that another project is the one to load before.
     ///
     /// The selected tool becomes "tool0", save a global one; the selected work object becomes "wobj0", **a global one
     /// too**. A project that is open stays open: change to another one before. The error line "Remove folder %l
     /// failed!" in the log is **what success looks like**, save for the project that is loaded at the start.
     /// \return 0, **also when the folder could not be deleted**, or only in part, or was not there; all else was done
-    ///         then. See whether getProjectList() still has the name. -1: the name is refused
+    ///         then. See whether getProjectList() still has the name; an empty list is no proof, for it is also what
+    ///         comes without an answer. -1: the name is refused
     int removeProject(const QString& name);
 
     /// Has the pendant change to a project. It does not look whether there is one of that name.

@@ -236,6 +236,21 @@ private slots:
         QCOMPARE(m_heard, QStringList{"a"});
     }
 
+    void theKeyThatWasPassedMayChangeDuringTheWatch() {
+        HastyLink hasty;
+        QString key = state;
+        connect(relay()->watchNode(state), &brisk::ModuleObject::changed, &bus(), [&key] { key = mode; });
+        QVERIFY(subscribe(
+            "weld", key, [this](const QVariant& value) { m_heard << value.toString(); }, "1"));
+        QCOMPARE(key, mode);
+        announce(state, "a");
+        announce(mode, "b");
+        QCOMPARE(m_heard, QStringList{"a"});
+        unsubscribe("weld", state, "1");
+        QCOMPARE(hasty.sent.last().verb, Verb::Unwatch);
+        QCOMPARE(hasty.sent.last().key, state);
+    }
+
     void aCallbackThatTakesTheBusDownMaySubscribeStill() {
         add("1", [this] {
             bus().setUp(false);

@@ -44,14 +44,52 @@ private slots:
         QCOMPARE(calls, 2);
     }
 
-    void aTaskForDisconnectingIsCalledWhenALinkGoesDown() {
+    void aTaskForDisconnectingIsCalledForTheFirstLinkThatGoesDown_data() {
+        QTest::addColumn<bool>("busFirst");
+        QTest::newRow("the bus first") << true;
+        QTest::newRow("the controller first") << false;
+    }
+    void aTaskForDisconnectingIsCalledForTheFirstLinkThatGoesDown() {
+        QFETCH(bool, busFirst);
+        pendanttest::FakeLink& first = busFirst ? bus() : controller();
+        pendanttest::FakeLink& second = busFirst ? controller() : bus();
         int calls = 0;
         const Task task(false, nullptr, [&calls] { ++calls; });
         QCOMPARE(calls, 0);
+        first.setUp(false);
+        QCOMPARE(calls, 1);
+        second.setUp(false);
+        QCOMPARE(calls, 1);
+        first.setUp(true);
+        second.setUp(true);
+        QCOMPARE(calls, 1);
+        second.setUp(false);
+        QCOMPARE(calls, 2);
+    }
+
+    void anIdThatIsTakenReplacesTheRegistrationOfItsKind() {
+        QStringList calls;
+        const auto call = [&calls](const char* who) { return [&calls, who] { calls << who; }; };
+        const Task otherKind(true, nullptr, call("up"), "same");
+        const Task first(false, nullptr, call("first"), "same");
+        const Task second(false, nullptr, call("second"), "same");
+        calls.clear();
         bus().setUp(false);
-        QCOMPARE(calls, 1);
+        QCOMPARE(calls, QStringList{"second"});
         bus().setUp(true);
-        QCOMPARE(calls, 1);
+        QCOMPARE(calls, QStringList({"second", "up"}));
+        QVERIFY(kiteInterface()->disconnectNetworkStatus(false, "same"));
+        QVERIFY(!kiteInterface()->disconnectNetworkStatus(false, "same"));
+    }
+
+    void aHandlerKeepsWhatItCounts() {
+        int last = 0;
+        const Task task(false, nullptr, [count = 0, &last]() mutable { last = ++count; });
+        for (int i = 0; i < 3; ++i) {
+            bus().setUp(false);
+            bus().setUp(true);
+        }
+        QCOMPARE(last, 3);
     }
 
     void aTaskThatWasTakenBackIsNotCalled_data() {

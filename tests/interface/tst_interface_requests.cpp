@@ -212,6 +212,8 @@ private slots:
         m("test.list")->setList(nullptr, {1});
         QCOMPARE(kiteInterface()->getNodeData("test.list.#0"), QJsonValue(1));
         QCOMPARE(kiteInterface()->getNodeData("test.list.#7"), QJsonValue());
+        QCOMPARE(m("test.list")->cmobjCount(), 1);
+        QVERIFY(m("test")->r("nowhere.to.be.found"));
     }
 
 private:

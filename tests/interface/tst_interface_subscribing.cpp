@@ -92,6 +92,15 @@ private slots:
         QCOMPARE(m_heard, QStringList({"1:a", "1:a"}));
     }
 
+    void aCallbackForgetsWhatItCountsInItself() {
+        QList<int> counted;
+        QVERIFY(subscribe(
+            "weld", state, [count = 0, &counted](const QVariant&) mutable { counted << ++count; }, "page"));
+        for (int i = 0; i < 3; ++i)
+            announce(state, i);
+        QCOMPARE(counted, QList<int>({1, 1, 1}));
+    }
+
     void aTakenNameIsRefusedAndNothingChanges_data() {
         QTest::addColumn<QString>("plugin");
         QTest::addColumn<QString>("serviceKey");

@@ -165,6 +165,24 @@ private slots:
         QCOMPARE(bus().sent.size(), 2);
     }
 
+    void whoHearsOfAnAnswerMayDeleteIt() {
+        const QJsonObject answer{{"data", QJsonArray{"x"}}};
+        bus().answerWith(contentOf(QVariant(answer)));
+        QCOMPARE(kiteInterface()->getValuesOfPERSVars({"a"}), QVector<QString>{"x"});
+        QPointer<ModuleObject> reply = relay()->execCommand(nullptr, "monitor.pers.read");
+        connect(reply, &ModuleObject::inserted, context(), [&reply] { delete reply; });
+        QCOMPARE(kiteInterface()->getValuesOfPERSVars({"a"}), QVector<QString>{""});
+        QVERIFY(!reply);
+        QCOMPARE(kiteInterface()->getValuesOfPERSVars({"a"}), QVector<QString>{"x"});
+
+        bus().answerWith(contentOf(QVariant(QJsonArray{1})));
+        reply = relay()->get(nullptr, "monitor.pers");
+        connect(reply, &ModuleObject::inserted, context(), [&reply] { delete reply; });
+        QCOMPARE(kiteInterface()->getRegistedPERSVars(), QVector<QVariant>());
+        QVERIFY(!reply);
+        QCOMPARE(kiteInterface()->getRegistedPERSVars(), QVector<QVariant>{1.0});
+    }
+
     void withTheLinkDownNothingIsSent() {
         bus().setUp(false);
         QCOMPARE(kiteInterface()->registPERSVars({"a"}), 0);

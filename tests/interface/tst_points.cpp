@@ -118,6 +118,7 @@ private slots:
         ModuleObject* record = add(points(), QJsonObject{{"name", "a"}});
         record->set(nullptr, "name.type", "serials");
         QCOMPARE(kiteInterface()->getPointObjDataByName("a"), QJsonObject());
+        QVERIFY(!kiteInterface()->getVarObjDataByName("a").isEmpty());
         QCOMPARE(kiteInterface()->getPointNameList(), QStringList{"a"});
     }
 
@@ -269,6 +270,44 @@ private slots:
         connect(points()->r("#0." + frameOf + ".pos.x"), &ModuleObject::changed, context(), [] { delete points(); });
         kiteInterface()->changeCartPoint("P1", newPose);
         QVERIFY(!points());
+    }
+
+    // Such as the pose that a page shows, which follows the point.
+    void thePoseIsThatOfTheCall() {
+        add(points(), cartesianPoint("P1", 1));
+        QVector<double> shown = newPose;
+        connect(project(), &ModuleObject::touched, context(),
+                [&shown] { shown = kiteInterface()->getPointDataByName("P1"); });
+        kiteInterface()->changeCartPoint("P1", shown);
+        QCOMPARE(kiteInterface()->getPointDataByName("P1"), newPose);
+    }
+
+    void thePoseMayBeEmptiedMeanwhile() {
+        add(points(), cartesianPoint("P1", 1));
+        QVector<double> shown = newPose;
+        connect(points()->r("#0." + frameOf + ".pos.y"), &ModuleObject::changed, context(), [&shown] {
+            shown.clear();
+            shown.squeeze();
+        });
+        kiteInterface()->changeCartPoint("P1", shown);
+        QCOMPARE(kiteInterface()->getPointDataByName("P1"), newPose);
+    }
+
+    void theIndexIsCountedOnceTheFormerOneIsCleared() {
+        add(points(), cartesianPoint("P1", 1));
+        connect(m("orca.project.point.hot_update.points"), &ModuleObject::cleared, context(), [] {
+            add(points(), QStringList{"P2", "P3"});
+        });
+        kiteInterface()->changeCartPoint("P1", newPose);
+        QCOMPARE(m("orca.project.point.hot_update.points.#0")->value(), QVariant(2));
+    }
+
+    void theListMayGoWhenTheFormerIndexIsCleared() {
+        add(points(), cartesianPoint("P1", 1));
+        connect(m("orca.project.point.hot_update.points"), &ModuleObject::cleared, context(), [] { delete points(); });
+        kiteInterface()->changeCartPoint("P1", newPose);
+        QCOMPARE(compact(m("orca.project.point.hot_update")->exportToJson(true)),
+                 QString(R"({"operate":"edit","points":[-1]})"));
     }
 
     void nothingIsSent() {

@@ -52,6 +52,7 @@ private slots:
         for (const char* name : {"a", "b", "c", ""})
             QCOMPARE(kiteInterface()->getPointObjDataByName(name), inTheWholeExport(name));
         QCOMPARE(kiteInterface()->getPointObjDataByName("a"), wanted);
+        QCOMPARE(kiteInterface()->getVarObjDataByName("a"), QJsonObject());
         parent->c("_list")->set(nullptr, "child", 1);
         QCOMPARE(kiteInterface()->getPointObjDataByName("a"), QJsonObject());
     }

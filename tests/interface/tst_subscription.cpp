@@ -238,12 +238,71 @@ private slots:
         QVERIFY(seen.expired());
     }
 
-    void itDoesNotKnowThatSomebodyElseEndedIt() {
+    void itKnowsThatSomebodyElseEndedIt() {
         const Subscription subscription("weld", state, hear("1"), "page");
         unsubscribe("weld", state, "page");
+        QVERIFY(!subscription.isActive());
+        QVERIFY(!subscription);
         announce("a");
         QCOMPARE(m_heard, QStringList());
-        QVERIFY(subscription.isActive());
+    }
+
+    // A page that is rebuilt while the old one waits for its end.
+    void oneThatSomebodyElseEndedLeavesItsSuccessorAlone_data() {
+        QTest::addColumn<QString>("connectKey");
+        QTest::newRow("a plain key") << "page";
+        QTest::newRow("a key with dots") << "page.left.1";
+    }
+    void oneThatSomebodyElseEndedLeavesItsSuccessorAlone() {
+        QFETCH(QString, connectKey);
+        auto first = std::make_unique<Subscription>("weld", state, hear("1"), connectKey);
+        Subscription moved(std::move(*first));
+        first = std::make_unique<Subscription>(std::move(moved));
+        unsubscribe("weld", state, connectKey);
+        const Subscription second("weld", state, hear("2"), connectKey);
+        QVERIFY(!first->isActive());
+        first.reset();
+        QVERIFY(second.isActive());
+        announce("a");
+        QCOMPARE(m_heard, QStringList{"2:a"});
+    }
+
+    // With another key, its name stays with the key that it followed.
+    void oneThatSomebodyElseEndedInPartClearsUp() {
+        {
+            const Subscription subscription("weld", state, hear("1"), "page");
+            unsubscribe("weld", "robot.mode", "page");
+            QVERIFY(!subscription.isActive());
+            QCOMPARE(watches(), QStringList({"+" + state, "-robot.mode"}));
+        }
+        QCOMPARE(watches(), QStringList({"+" + state, "-robot.mode", "-" + state}));
+        const Subscription successor("weld", state, hear("2"), "page");
+        announce("a");
+        QCOMPARE(m_heard, QStringList{"2:a"});
+    }
+
+    void itIsActiveUntilItsCallbackReturns() {
+        Subscription subscription;
+        QList<bool> active;
+        subscription = Subscription(
+            "weld", state,
+            [&](const QVariant&) {
+                unsubscribe("weld", state, "page");
+                active << subscription.isActive();
+            },
+            "page");
+        announce("a");
+        active << subscription.isActive();
+        QCOMPARE(active, QList<bool>({true, false}));
+    }
+
+    void itsCallbackKeepsWhatItCounts() {
+        int last = 0;
+        const Subscription subscription(
+            "weld", state, [count = 0, &last](const QVariant&) mutable { last = ++count; }, "page");
+        for (int i = 0; i < 3; ++i)
+            announce(i);
+        QCOMPARE(last, 3);
     }
 
 private:

@@ -379,6 +379,69 @@ private slots:
         QCOMPARE(m("orca.project.point.hot_update.points.#0")->value(), QVariant(-1));
     }
 
+    // Such as what a page has selected, which follows the list and the robot.
+    void theNamesArePassedAsTheyWereAtTheCall() {
+        add(points(), QStringList{"P1", "P2"});
+        QString name = "P1";
+        QString tool = "gun";
+        QString workObject = "table";
+        connect(points(), &ModuleObject::removed, context(), [&name] { name = "P2"; });
+        controller().reply = [&](const Message&) {
+            tool = "torch";
+            workObject = "floor";
+            return contentOf(QVariant(robotPosition()));
+        };
+        QVERIFY(kiteInterface()->addCurrentPoint(name, true, tool, workObject));
+        QCOMPARE(names(points()), QStringList({"#1=P2", "#2=P1"}));
+        QCOMPARE(controller().sentAs(Verb::Request),
+                 QStringList{R"(project.vex_program.get_rob_pos||{"tool":"gun","wobj":"table"})"});
+        QCOMPARE(leaves(points()->r("#2." + positionKey)), jointLeaves);
+    }
+
+    void theToolIsAskedForAsItWasAtTheCall() {
+        add(points(), QStringList{"P1"});
+        QString tool = "gun";
+        QString workObject = "table";
+        connect(points(), &ModuleObject::removed, context(), [&] { tool = workObject = "none"; });
+        QVERIFY(kiteInterface()->addCurrentPoint("P1", false, tool, workObject));
+        QCOMPARE(controller().sentAs(Verb::Request),
+                 QStringList{R"(project.vex_program.get_rob_pos||{"tool":"gun","wobj":"table"})"});
+        QCOMPARE(leaves(points()->r("#1." + positionKey)), cartesianLeaves);
+    }
+
+    void theAxesAreThoseOfTheRobotWhateverTheTemplateHas_data() {
+        QTest::addColumn<QJsonValue>("axes");
+        QJsonArray many;
+        for (int i = 0; i < 12; ++i)
+            many << 100 + i;
+        QTest::newRow("more") << QJsonValue(many);
+        QTest::newRow("as many") << QJsonValue(QJsonArray{1, 2, 3, 4, 5, 6, 7});
+        QTest::newRow("fewer") << QJsonValue(QJsonArray{1, 2});
+        QTest::newRow("none") << QJsonValue(QJsonArray());
+        QTest::newRow("a gap") << QJsonValue(QJsonObject{{"#1", 5}});
+        QTest::newRow("a gap further on") << QJsonValue(QJsonObject{{"#0", 5}, {"#4", 5}});
+        QTest::newRow("items with parts") << QJsonValue(QJsonArray{QJsonObject{{"unit", "deg"}}});
+        QTest::newRow("named parts") << QJsonValue(QJsonObject{{"first", 5}});
+        QTest::newRow("a number") << QJsonValue(5);
+    }
+    void theAxesAreThoseOfTheRobotWhateverTheTemplateHas() {
+        QFETCH(QJsonValue, axes);
+        const QJsonObject position{{"inner_pos", axes}, {"extern_pos", axes}, {"external_joint", axes}};
+        const QJsonObject pattern{{"value", QJsonObject{{"[0][0][0]", position}}}};
+        ModuleObject* templateNode = m("orca.project.point.default");
+        templateNode->importFromJson(nullptr, pattern, false, true, false);
+        const QJsonValue before = templateNode->exportToJson(true);
+        teach("J", true);
+        teach("C", false);
+        const auto axesOf = [](int point, const char* list) {
+            return compact(points()->c(point)->r(mName(positionKey, list))->exportToJson(true));
+        };
+        QCOMPARE(axesOf(0, "inner_pos"), QString("[20,21,22,23,24,25,26.5]"));
+        QCOMPARE(axesOf(0, "extern_pos"), QString("[30,31,32,33,34,35.5]"));
+        QCOMPARE(axesOf(1, "external_joint"), QString("[30,31,32,33,34,35.5]"));
+        QCOMPARE(templateNode->exportToJson(true), before);
+    }
+
     void aProjectThatIsNotThereIsMade() {
         m("orca")->clear(nullptr, false, true);
         QVERIFY(teach("P1", true));

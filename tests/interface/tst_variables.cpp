@@ -167,6 +167,20 @@ private slots:
                  QStringList({"var._list.#0.value.[0][0][0] 1 kite", "var._list.#0.value.[0][0][0] null kite"}));
     }
 
+    void aValueWithPartsKeepsItsParts_data() {
+        QTest::addColumn<QJsonValue>("parts");
+        QTest::newRow("a list") << QJsonValue(QJsonArray{1, 2});
+        QTest::newRow("named parts") << QJsonValue(QJsonObject{{"x", 1}});
+    }
+    void aValueWithPartsKeepsItsParts() {
+        QFETCH(QJsonValue, parts);
+        add(variables(), QJsonObject{{"name", "a"}, {"value", QJsonObject{{"[0][0][0]", parts}}}});
+        QVERIFY(kiteInterface()->updateVarData("a", 5));
+        const ModuleObject* value = variables()->r("#0.value.[0][0][0]");
+        QCOMPARE(value->value(), QVariant(5));
+        QCOMPARE(value->exportToJson(true), parts);
+    }
+
     void settingWhatIsNotThereDoesNothing() {
         add(variables(), QStringList{"a"});
         follow();
