@@ -17,8 +17,10 @@
 #include <memory>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <vector>
 
-// A line of 80 bytes with its line break, by kite::FLog and by others. So many lines a run that no file gets full.
+// A line of 80 bytes with its line break, by kite::FLog and by others. So many lines a run that no file gets full. The
+// figures are medians of several runs; --benchmark_repetitions and the like say otherwise.
 
 namespace {
 
@@ -32,20 +34,27 @@ const QString text = QString(QLatin1Char('x')).repeated(50);
 const QString ext = QStringLiteral("log");
 const QByteArray wholeLine = (tag + module + text).toUtf8() + '\n';
 
+const qint64 mostBytes = 209715200;
+
 /// The folder that the lines of one run go to. What they added is taken out of the manager's sum again.
 class Folder {
 public:
-    explicit Folder(int otherFiles = 0) {
-        for (int i = 0; i < otherFiles; ++i)
-            QFile(path() + QString("_19990101_%1.log").arg(i + 1)).open(QIODevice::WriteOnly);
+    /// \param fullFiles of today, to look through
+    explicit Folder(int fullFiles = 0) {
+        for (int i = 0; i < fullFiles; ++i)
+            QFile(fullFile(i + 1)).open(QIODevice::WriteOnly);
     }
     ~Folder() { PluginLogFileManager::instance()->updateFileSize(file(), 0); }
 
     QString path() const { return m_folder.filePath("kite"); }
-    QString file() const { return path() + '_' + QDate::currentDate().toString("yyyyMMdd") + ".log"; }
+    QString file() const { return start() + ".log"; }
+    QString fullFile(int index) const { return start() + QString("_%1.log").arg(index); }
+    QString root() const { return m_folder.path(); }
 
 private:
     Q_DISABLE_COPY(Folder)
+    QString start() const { return path() + '_' + QDate::currentDate().toString("yyyyMMdd"); }
+
     QTemporaryDir m_folder;
 };
 
@@ -206,16 +215,47 @@ BENCHMARK(firstNameOfADay)
     ->Apply(folderSizes)
     ->Unit(benchmark::kMillisecond);
 
-// Too little for anything to be deleted, so this is the walk.
+void setMode(const QString& path, mode_t mode) {
+    if (::chmod(QFile::encodeName(path).constData(), mode) != 0)
+        qFatal("The folder's permissions cannot be set.");
+}
+
+void setUser(uid_t user) {
+    if (::seteuid(user) != 0)
+        qFatal("The process cannot become another user.");
+}
+
+const bool isRoot = ::geteuid() == 0;
+const uid_t nobody = 65534;
+
+// Nothing in the folder can be deleted, by root neither.
+void makeFolderOfLockedFiles(const benchmark::State& state) {
+    makeFullFolder(state);
+    setMode(folder->root(), 0555);
+    if (isRoot)
+        setUser(nobody);
+}
+
+void removeFolderOfLockedFiles(const benchmark::State& state) {
+    if (isRoot)
+        setUser(0);
+    setMode(folder->root(), 0755);
+    removeFolder(state);
+}
+
+// Too much is counted and nothing can be deleted: the walk, and an attempt at each file.
 void walkToCleanUp(benchmark::State& state) {
     const QString path = folder->path();
     PluginLogFileManager manager(nullptr);
+    manager.updateFileSize(folder->file(), mostBytes + 1);
     for (auto _ : state)
         manager.cleanupOldFiles(path);
+    if (!QFile::exists(folder->fullFile(1)))
+        state.SkipWithError("a file was deleted");
 }
 BENCHMARK(walkToCleanUp)
-    ->Setup(makeFullFolder)
-    ->Teardown(removeFolder)
+    ->Setup(makeFolderOfLockedFiles)
+    ->Teardown(removeFolderOfLockedFiles)
     ->Apply(folderSizes)
     ->Unit(benchmark::kMillisecond);
 
@@ -225,8 +265,15 @@ int main(int argc, char** argv) {
     FLAGS_logbuflevel = -1; // flushed after each line
     FLAGS_stderrthreshold = google::GLOG_FATAL;
     google::InitGoogleLogging(argv[0]);
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+    // In front of what the caller says, which counts more.
+    char repetitions[] = "--benchmark_repetitions=5";
+    char medians[] = "--benchmark_report_aggregates_only=true";
+    std::vector<char*> arguments = {argv[0], repetitions, medians};
+    arguments.insert(arguments.end(), argv + 1, argv + argc);
+    int count = int(arguments.size());
+    arguments.push_back(nullptr);
+    benchmark::Initialize(&count, arguments.data());
+    if (benchmark::ReportUnrecognizedArguments(count, arguments.data()))
         return 1;
     benchmark::RunSpecifiedBenchmarks();
     return 0;

@@ -5,28 +5,45 @@
 
 #include <QTextStream>
 
+#include <cerrno>
 #include <fcntl.h>
+#include <unistd.h>
 
 namespace kite {
 
 namespace {
 
-int openToAppend(const QString& fileName) {
-    return ::open(QFile::encodeName(fileName).constData(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0666);
+// A signal may interrupt what waits, for a pipe's reader or a disk that is far away.
+int openToAppend(const QByteArray& fileName) {
+    int descriptor;
+    do
+        descriptor = ::open(fileName.constData(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0666);
+    while (descriptor < 0 && errno == EINTR);
+    return descriptor;
 }
 
-// By a descriptor, which spares QFile two looks at the file; without QFile's own buffer, since the stream has one. A
-// file that opens has its folder, so the folder is looked for only when it does not.
+// A file that opens has its folder, so the folder is looked for only when it does not.
+int openToAppend(const QString& fileName) {
+    if (!canBeOnDisk(fileName))
+        return -1;
+    const QByteArray encoded = QFile::encodeName(fileName);
+    const int descriptor = openToAppend(encoded);
+    if (descriptor >= 0)
+        return descriptor;
+    makeFolderOf(fileName);
+    return openToAppend(encoded);
+}
+
+// By a descriptor, which spares QFile two looks at the file. It is the descriptor that appends: told to append, QFile
+// would look for the end, which a pipe has not. Without QFile's own buffer, since the stream has one.
 void openToAppend(QFile& file, const QString& fileName) {
     file.setFileName(fileName);
-    int descriptor = openToAppend(fileName);
-    if (descriptor < 0) {
-        makeFolderOf(fileName);
-        descriptor = openToAppend(fileName);
-    }
-    const auto mode = QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered;
-    if (descriptor >= 0)
-        file.open(descriptor, mode, QFileDevice::AutoCloseHandle);
+    const int descriptor = openToAppend(fileName);
+    if (descriptor < 0)
+        return;
+    const auto mode = QIODevice::WriteOnly | QIODevice::Unbuffered;
+    if (!file.open(descriptor, mode, QFileDevice::AutoCloseHandle))
+        ::close(descriptor);
 }
 
 QTextStream& endLine(QTextStream& stream) {

@@ -8,12 +8,12 @@
 
 namespace kite {
 
-/// Holds a mutex while it lives. The mutex is one that is held for less than a microsecond, so waiting awake for a
-/// moment is quicker than going to sleep.
+/// Holds a mutex while it lives. The mutex is one that is held, as a rule, for no longer than a look at one file takes,
+/// so trying for a moment is quicker than going to sleep. Whoever has to wait for more than that, sleeps.
 class Hold {
 public:
     explicit Hold(QMutex* mutex) : m_mutex(mutex) {
-        if (!isTakenAwake())
+        if (!takeAwake())
             mutex->lock();
         tellSanitizer(true);
     }
@@ -25,7 +25,7 @@ public:
 private:
     Q_DISABLE_COPY(Hold)
 
-    bool isTakenAwake() {
+    bool takeAwake() {
         const int attempts = 200;
         for (int i = 0; i < attempts; ++i) {
             if (m_mutex->tryLock())

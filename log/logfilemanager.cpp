@@ -3,10 +3,10 @@
 #include "log/filenames.h"
 #include "log/hold.h"
 #include "log/logfiles.h"
-#include "log/wallclock.h"
 
 #include "kite/logtime.h"
 
+#include <QDateTime>
 #include <QDebug>
 #include <QFile>
 #include <QStringBuilder>
@@ -21,7 +21,7 @@ const qint64 fullFileBytes = 10 * 1024 * 1024;
 const qint64 mostBytes = 200 * 1024 * 1024;
 
 QString today() {
-    return QString::fromLatin1(detail::localSecond(detail::secondOf(wallClockMs())).day);
+    return QString::fromLatin1(detail::localSecond(detail::secondOf(QDateTime::currentMSecsSinceEpoch())).day);
 }
 
 // The difference is worked out in 32 bits, and wraps; intended.
@@ -65,17 +65,16 @@ QString PluginLogFileManager::getProperLogFileName(const QString& path, const QS
     const Hold hold(&lock);
     const QString date = today();
     const QString key = dayKey(path, date);
-    // Looked for from the end, where those of today are.
-    if (scannedKeys.lastIndexOf(key) < 0) {
+    // One look for both: what has an index has been scanned, and the reverse.
+    auto indexOfDay = currentIndex.find(key);
+    if (indexOfDay == currentIndex.end()) {
         totalSize += sizeOfLog(path, ext);
         scannedKeys.append(key);
-    }
-    if (!currentIndex.contains(key)) {
-        currentIndex[key] = greatestIndex(path, key, ext);
+        indexOfDay = currentIndex.insert(key, greatestIndex(path, key, ext));
         currentSize[key] = 0;
     }
 
-    int& index = currentIndex[key];
+    int& index = *indexOfDay;
     qint64& size = currentSize[key];
     const QString fileName = buildFileName(path, date, index, ext);
     const qint64 onDisk = sizeOnDisk(fileName);
@@ -90,10 +89,10 @@ QString PluginLogFileManager::getProperLogFileName(const QString& path, const QS
 }
 
 void PluginLogFileManager::updateFileSize(const QString& filePath, qint64 size) {
+    const Hold hold(&lock);
     const QString key = dayKeyOfFile(filePath);
     if (key.isEmpty())
         return;
-    const Hold hold(&lock);
     qint64& known = currentSize[key];
     totalSize += growth(known, size);
     known = size;
@@ -110,6 +109,8 @@ QString PluginLogFileManager::buildFileName(const QString& prefix, const QString
 }
 
 void PluginLogFileManager::cleanupOldFiles(const QString& path) {
+    if (totalSize <= mostBytes)
+        return;
     const QVector<OldFile> files = logFilesByAge(path);
     for (const OldFile& file : files) {
         if (totalSize <= mostBytes)

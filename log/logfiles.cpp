@@ -22,19 +22,29 @@ qint64 modifiedNs(const struct stat& status) {
 
 } // namespace
 
+bool canBeOnDisk(const QString& path) {
+    return !path.contains(QChar(0));
+}
+
 qint64 sizeOnDisk(const QString& fileName) {
+    if (!canBeOnDisk(fileName))
+        return -1;
     struct stat status;
     return readStatus(fileName, &status) ? status.st_size : -1;
 }
 
 void makeFolderOf(const QString& path) {
+    if (!canBeOnDisk(path))
+        return;
     const QDir folder = QFileInfo(path).dir();
     if (!folder.exists())
         folder.mkpath(QStringLiteral("."));
 }
 
 QStringList fileNamesBeside(const QString& path, const QString& pattern) {
-    return QFileInfo(path).dir().entryList({pattern}, QDir::Files, QDir::Name);
+    if (!canBeOnDisk(path))
+        return {};
+    return QFileInfo(path).dir().entryList({pattern}, QDir::Files, QDir::Unsorted);
 }
 
 qint64 sumOfSizesBeside(const QString& path, const QString& pattern) {
@@ -47,6 +57,8 @@ qint64 sumOfSizesBeside(const QString& path, const QString& pattern) {
 
 // Each file's time is read once, before sorting: comparing files would read it at every comparison.
 QVector<OldFile> logFilesByAge(const QString& path) {
+    if (!canBeOnDisk(path))
+        return {};
     QVector<OldFile> files;
     QDirIterator walk(QFileInfo(path).dir().absolutePath(), {QStringLiteral("*.log")}, QDir::Files,
                       QDirIterator::Subdirectories);

@@ -6,7 +6,11 @@
 
 namespace kite {
 
-/// What the log file manager asks of the disk. Nothing here takes a lock or remembers anything.
+/// What the log file manager asks of the disk. Nothing here takes a lock or remembers anything. Nor does anything write
+/// a message, which would come while the manager's lock is held.
+
+/// False for a name with a NUL character, which no file has, and which Qt warns of.
+bool canBeOnDisk(const QString& path);
 
 /// A file's size in bytes; -1 when there is none.
 qint64 sizeOnDisk(const QString& fileName);
@@ -14,7 +18,7 @@ qint64 sizeOnDisk(const QString& fileName);
 /// Makes the folder that `path` lies in, with all above it, unless it is there.
 void makeFolderOf(const QString& path);
 
-/// The names, without the folder, of the files beside `path` that match a wildcard pattern; sorted.
+/// The names, without the folder, of the files beside `path` that match a wildcard pattern, in any order.
 QStringList fileNamesBeside(const QString& path, const QString& pattern);
 
 /// The sum of the sizes in bytes of the files beside `path` that match a wildcard pattern.

@@ -22,15 +22,27 @@
 /// | QString, "text", char*, QByteArray (both UTF-8)            | itself, unquoted; a null pointer as nothing    |
 /// | QLatin1String, QChar, char                                 | itself                                         |
 /// | integers, bool, floating point, enumerators, QVariant      | QVariant::toString() of it; enumerators as numbers |
-/// | any other pointer, nullptr                                 | the address, "0x" and lower-case digits        |
+/// | any other pointer to an object, nullptr                    | the address, "0x" and lower-case digits        |
+/// | functions (Qt::endl too), pointers to members              | does not compile, and says what to write       |
 ///
-/// From a NUL character on, a text is dropped.
+/// From a NUL character on, a text is dropped. A QVariant that has no toString() prints nothing: lists and maps, save
+/// for a QStringList of one text, which prints that text.
 ///
 /// Any thread may write; an object belongs to the thread that made it. Nothing is ever reported: what cannot be written
 /// is lost, and the next line is tried again.
 /// \since 0.1
 
 namespace kite {
+namespace detail {
+
+/// A QFile on a descriptor that appends. Called sequential, it leaves out the seeks, which such a descriptor makes
+/// superfluous and a pipe refuses. Without fields of its own, so it lies in memory as a QFile does.
+class __attribute__((visibility("hidden"))) AppendedFile final : public QFile {
+public:
+    bool isSequential() const override { return true; }
+};
+
+} // namespace detail
 
 /// A line on the console: it is handed to the process's message handler as one debug message of the category "default"
 /// when the object is destroyed.
@@ -58,10 +70,11 @@ private:
 };
 
 /// A line in a log file. Which one, says PluginLogFileManager. The file is opened by the constructor; a folder that is
-/// missing is made. When it does not open, the line is dropped.
+/// missing is made. When it does not open, the line is dropped; so it is when the path holds a NUL character.
 ///
-/// A line of up to 16 KiB is written in one piece, so lines of several threads and processes stay whole. A longer one
-/// is written in pieces, between which others may write. What is not ASCII is encoded as the process's locale says.
+/// A line of up to 16,384 characters (UTF-16 units), tag and module included, is written in one piece with its line
+/// break, so lines of several threads and processes stay whole. A longer one is written in pieces, between which others
+/// may write. What is not ASCII is encoded as the process's locale says.
 /// \since 0.1
 class KITE_EXPORT FLog {
 public:
@@ -83,7 +96,7 @@ public:
 private:
     Q_DISABLE_COPY(FLog)
 
-    QFile file;
+    detail::AppendedFile file;
     QDebug stream;
     QString fileName;
 };

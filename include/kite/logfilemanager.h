@@ -26,8 +26,11 @@ namespace kite {
 ///
 /// Nothing is saved: after a restart the files on disk tell where the day's log goes on. For that, the name of a log
 /// should hold no '_'. With one in it ("my_mod"), a restart takes the date of the day's first file for the number of
-/// the last one and goes on in my_mod_20250314_20250314.log; with two or more it goes on in the first file, full or
-/// not.
+/// the last one and goes on in my_mod_20250314_20250314.log; with two or more it goes on in the first file, or in
+/// number 1, full or not, when the first is full.
+///
+/// What is kept of a log is kept under its name and the day: logs of one name in two folders, or with two extensions,
+/// share the number of the file and its size, and only the one that is asked for first has its older files counted.
 ///
 /// Nothing is reported: a folder that is missing is made, a file that cannot be measured counts as empty, one that
 /// cannot be deleted stays. Any thread may call, save where an operation says otherwise.
@@ -50,7 +53,7 @@ public:
     /// are deleted if there are too many. So this is the only moment at which a file is found to be full: the line that
     /// fills it is written whole.
     ///
-    /// The message handler must not write to a log file while old files are being deleted, see cleanupOldFiles().
+    /// The lock is held meanwhile, and the message handler must not write to a log file then, see cleanupOldFiles().
     ///
     /// \param path the log's path without extension
     /// \param ext  the extension without the dot
@@ -73,9 +76,10 @@ public:
     /// Deletes the oldest "*.log" files of the folder of `path` and those below it while more than 200 MiB are counted.
     /// Each goes with a debug message, `Cleaned old log file: "kite_20250301.log" size: 10485812`.
     ///
-    /// Called by the two operations above, which hold the lock meanwhile, also while the message handler runs; a
-    /// message handler that writes to a log file waits for ever then. Takes no lock itself, so nobody else may call it
-    /// while others write.
+    /// Called by the two operations above, which hold the lock for the whole of their run, also while the message
+    /// handler runs; a message handler that writes to a log file for any message that comes while the lock is held,
+    /// this one or one of Qt's own, waits for ever. Takes no lock itself, so nobody else may call it while others
+    /// write.
     void cleanupOldFiles(const QString& path);
 
 private:

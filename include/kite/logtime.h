@@ -25,7 +25,10 @@ struct LocalSecond {
 /// Each look at the local time costs a look at the zone's file, so a thread remembers the last one: for that very
 /// second and that value of TZ, and no longer. Midnight, summer time, another zone and a clock that jumps ask again; a
 /// new zone file under the old name counts from the next second on.
-inline const LocalSecond& localSecond(qint64 seconds) {
+///
+/// Hidden, or plugins that are built without -fvisibility=hidden would share what is remembered, in whichever of them
+/// was loaded first.
+__attribute__((visibility("hidden"))) inline const LocalSecond& localSecond(qint64 seconds) {
     static thread_local LocalSecond known;
     const QByteArray zone = qgetenv("TZ");
     if (known.isOf(seconds, zone))

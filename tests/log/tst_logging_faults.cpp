@@ -6,10 +6,17 @@
 #include "pendanttest/logwatch.h"
 
 #include <QTest>
+#include <QThread>
 
+#include <atomic>
 #include <csignal>
+#include <fcntl.h>
 #include <memory>
+#include <pthread.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
+#include <thread>
+#include <unistd.h>
 
 using kite::FLog;
 
@@ -34,6 +41,60 @@ private:
     void (*m_handler)(int);
     rlimit m_before;
     bool m_isSet = false;
+};
+
+int openDescriptors() {
+    return QDir("/proc/self/fd").entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System).size();
+}
+
+/// A pipe that is called as a log file is, and what was written to it.
+class Pipe {
+public:
+    explicit Pipe(const QString& name) {
+        const QByteArray encoded = QFile::encodeName(name);
+        m_isMade = ::mkfifo(encoded.constData(), 0666) == 0;
+        m_name = encoded;
+    }
+    ~Pipe() {
+        if (m_reader >= 0)
+            ::close(m_reader);
+    }
+
+    bool isMade() const { return m_isMade; }
+    /// Whoever waits to write to it may do so now.
+    bool openToRead() {
+        m_reader = ::open(m_name.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+        return m_reader >= 0;
+    }
+    QByteArray read() const {
+        char bytes[4096];
+        const ssize_t count = ::read(m_reader, bytes, sizeof bytes);
+        return QByteArray(bytes, static_cast<int>(qMax<ssize_t>(0, count)));
+    }
+
+private:
+    Q_DISABLE_COPY(Pipe)
+    QByteArray m_name;
+    bool m_isMade = false;
+    int m_reader = -1;
+};
+
+std::atomic<int> interruptions{0};
+
+/// While it lives, SIGUSR1 interrupts what waits.
+class Interrupting {
+public:
+    Interrupting() {
+        struct sigaction interrupt = {};
+        interrupt.sa_handler = [](int) { ++interruptions; };
+        ::sigaction(SIGUSR1, &interrupt, &m_before);
+        interruptions = 0;
+    }
+    ~Interrupting() { ::sigaction(SIGUSR1, &m_before, nullptr); }
+
+private:
+    Q_DISABLE_COPY(Interrupting)
+    struct sigaction m_before;
 };
 
 } // namespace
@@ -199,16 +260,55 @@ private slots:
     }
 
     void noDescriptorIsLeftOpen() {
-        const int before =
-            QDir("/proc/self/fd").entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System).size();
+        const int before = openDescriptors();
         for (int i = 0; i < 100; ++i)
             write("line");
         QVERIFY(QFile::remove(file()) && QDir().mkdir(file()));
         for (int i = 0; i < 100; ++i)
             write("lost");
-        const int after =
-            QDir("/proc/self/fd").entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System).size();
-        QCOMPARE(after, before);
+        QCOMPARE(openDescriptors(), before);
+    }
+
+    void aPipeInPlaceOfTheFileGetsTheLines() {
+        QVERIFY(QDir().mkpath(m_folder->path("below")));
+        Pipe pipe(file());
+        QVERIFY(pipe.isMade() && pipe.openToRead());
+        const int before = openDescriptors();
+        write("one");
+        write("two");
+        QCOMPARE(pipe.read(), QByteArray("one\ntwo\n"));
+        QCOMPARE(openDescriptors(), before);
+    }
+
+    // Opening waits for the pipe's reader, and signals come meanwhile.
+    void aSignalDoesNotTakeTheLineAway() {
+        QVERIFY(QDir().mkpath(m_folder->path("below")));
+        Pipe pipe(file());
+        QVERIFY(pipe.isMade());
+        const Interrupting interrupting;
+        std::atomic<bool> isWritten{false};
+        std::thread writer([&] {
+            write("kept");
+            isWritten = true;
+        });
+        while (interruptions < 50 && !isWritten) {
+            ::pthread_kill(writer.native_handle(), SIGUSR1);
+            QThread::msleep(1);
+        }
+        QVERIFY(pipe.openToRead());
+        writer.join();
+        QCOMPARE(pipe.read(), QByteArray("kept\n"));
+    }
+
+    void aNameWithANulCharacterIsNoFiles() {
+        FLog("", "", path() + QChar(0) + "x", "log") << "lost";
+        FLog("", "", path() + QChar(0) + "/x", "log") << "lost";
+        QVERIFY(!QDir(m_folder->path("below")).exists());
+        FLog("", "", path(), QString("log") + QChar(0)) << "lost";
+        QCOMPARE(m_folder->names("below"), QStringList());
+        write("after");
+        QCOMPARE(m_folder->names("below").size(), 1);
+        QCOMPARE(content(), "after\n");
     }
 
 private:

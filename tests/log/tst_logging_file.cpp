@@ -17,6 +17,18 @@ namespace {
 const QString tag = "[I|01/02 03:04:05.006]";
 const qint64 full = 10485760;
 
+/// How often this thread has called write() so far; -1 when the system does not tell.
+int writesOfThisThread() {
+    QFile counters("/proc/thread-self/io");
+    if (!counters.open(QIODevice::ReadOnly))
+        return -1;
+    for (const QByteArray& line : counters.readAll().split('\n')) {
+        if (line.startsWith("syscw: "))
+            return line.mid(7).toInt();
+    }
+    return -1;
+}
+
 } // namespace
 
 // Lines in files, each case in a folder of its own, as a log of its own.
@@ -193,6 +205,60 @@ private slots:
         QFLog("", "t", "", path, "log") << QString("a");
         qInstallMessageHandler(before);
         QCOMPARE(content(), "ta\nhandler ta\x1b[0m\n");
+    }
+
+    void aMessageHandlerMayWriteOfANameThatNoFileHas() {
+        static QString path;
+        path = m_folder->path(m_name);
+        const QtMessageHandler before =
+            qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& line) {
+                FLog("handler ", "", path, "log") << line;
+            });
+        FLog("t", "", m_folder->path("a") + QChar(0) + "/b", "log") << QString("lost");
+        FLog("t", "", path, QString("l") + QChar(0) + "og") << QString("lost");
+        kite::PluginLogFileManager manager(nullptr);
+        manager.updateFileSize(m_folder->path("a") + QChar(0) + "/b_20250314.log", 209715201);
+        qInstallMessageHandler(before);
+        QCOMPARE(m_folder->names(), QStringList());
+        QVERIFY(!QDir(m_folder->path("a")).exists());
+    }
+
+    // The file goes between the line's beginning and its end, as the oldest one there is.
+    void aFileThatIsCleanedUpWithinALineTakesTheLineWithIt() {
+        const qint64 most = 209715200;
+        auto* manager = kite::PluginLogFileManager::instance();
+        {
+            FLog log("t", "", path(), "log");
+            manager->updateFileSize(m_folder->path("other_20250314.log"), most + 1000);
+            QCOMPARE(m_folder->names(), QStringList());
+            manager->updateFileSize(m_folder->path("other_20250314.log"), 0);
+            log << QString("lost");
+        }
+        QCOMPARE(m_folder->names(), QStringList());
+        FLog("after", "", path(), "log");
+        QCOMPARE(content(), "after\n");
+        QCOMPARE(m_watch->lines(), QStringList(QString("Cleaned old log file: \"%1\" size: 0").arg(file())));
+    }
+
+    void aLineIsOneWriteUpToSixteenKibiCharacters_data() {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("writes");
+        QTest::newRow("short") << QString("x") << 1;
+        QTest::newRow("one less") << QString(16383, 'x') << 1;
+        QTest::newRow("exactly") << QString(16384, 'x') << 1;
+        QTest::newRow("one more") << QString(16385, 'x') << 2;
+        QTest::newRow("characters of three bytes") << QString(16384, QChar(0x710a)) << 1;
+    }
+    void aLineIsOneWriteUpToSixteenKibiCharacters() {
+        QFETCH(QString, text);
+        const QString half = text.left(text.size() / 2);
+        FLog("", "", path(), "log");
+        const int before = writesOfThisThread();
+        FLog("", "", path(), "log") << half << text.mid(half.size());
+        const int after = writesOfThisThread();
+        QVERIFY(before >= 0);
+        QTEST(after - before, "writes");
+        QCOMPARE(content(), '\n' + text.toUtf8() + '\n');
     }
 
     void longLinesAreWhole_data() {

@@ -152,6 +152,15 @@ private slots:
         QCOMPARE(ask("a_b_c"), "a_b_c_20250314.log");
     }
 
+    // The next file is not looked for: it is taken, full or not, and found to be full at the request after.
+    void aLogWithTwoSeparatorsGoesToTheSecondFileWhenTheFirstIsFull() {
+        QVERIFY(m_folder->make("a_b_c_20250314.log", full));
+        QVERIFY(m_folder->make("a_b_c_20250314_1.log", full));
+        QVERIFY(m_folder->make("a_b_c_20250314_5.log", full));
+        QCOMPARE(ask("a_b_c"), "a_b_c_20250314_1.log");
+        QCOMPARE(ask("a_b_c"), "a_b_c_20250314_2.log");
+    }
+
     void logsDoNotDisturbEachOther() {
         QVERIFY(m_folder->make("kite_20250314_3.log", 5));
         QCOMPARE(ask("weld"), "weld_20250314.log");
@@ -164,6 +173,12 @@ private slots:
         QVERIFY(m_folder->make("a/kite_20250314.log", full));
         QCOMPARE(ask("a/kite"), "a/kite_20250314_1.log");
         QCOMPARE(ask("b/kite"), "b/kite_20250314_1.log");
+    }
+
+    void logsOfOneNameAndTwoExtensionsShareTheirIndexToo() {
+        QVERIFY(m_folder->make("kite_20250314.log", full));
+        QCOMPARE(ask("kite"), "kite_20250314_1.log");
+        QCOMPARE(m_manager->getProperLogFileName(m_folder->path("kite"), "txt"), m_folder->path("kite_20250314_1.txt"));
     }
 
     void aReportedSizeCountsWhileThereIsNoFile() {

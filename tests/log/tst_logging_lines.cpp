@@ -1,3 +1,4 @@
+#include "clock.h"
 #include "logfolder.h"
 
 #include "kite/logline.h"
@@ -23,6 +24,7 @@ private slots:
         m_watch.reset();
         QVERIFY(QDir::setCurrent(m_before));
         m_folder.reset();
+        m_clock.run();
     }
 
     void anErrorIsRed() {
@@ -57,6 +59,24 @@ private slots:
         QVERIFY(QRegularExpression("\\Aweld_\\d{8}\\.log\\z").match(m_folder->names("log").value(0)).hasMatch());
     }
 
+    void aLineOfTheDaysLastMomentIsOfThatDay() {
+        m_clock.set(QDateTime(QDate(2025, 3, 14), QTime(23, 59, 59, 999)));
+        kite::InformationLine("<weld>") << "last";
+        m_clock.advance(1);
+        kite::InformationLine("<weld>") << "first";
+        QCOMPARE(m_folder->content("log/kite_20250314.log"), QByteArray("[I|03/14 23:59:59.999]<weld>last\n"));
+        QCOMPARE(m_folder->content("log/kite_20250315.log"), QByteArray("[I|03/15 00:00:00.000]<weld>first\n"));
+    }
+
+    // The time is asked for before the file is, and midnight may come in between.
+    void atMidnightALineMayBeOlderThanItsFile() {
+        m_clock.set(QDateTime(QDate(2025, 3, 14), QTime(23, 59, 59, 999)));
+        m_clock.advanceAtEachLook(1);
+        kite::InformationLine("<weld>") << "late";
+        QCOMPARE(m_folder->names("log"), QStringList("kite_20250315.log"));
+        QCOMPARE(m_folder->content("log/kite_20250315.log"), QByteArray("[I|03/14 23:59:59.999]<weld>late\n"));
+    }
+
 private:
     // The line on the console and the one in the file, letter by letter.
     void check(const QString& colour, const QString& level, const QString& text) {
@@ -75,6 +95,7 @@ private:
         QCOMPARE(inFile, onConsole.mid(5, onConsole.size() - 9) + '\n');
     }
 
+    Clock m_clock;
     QString m_before;
     std::unique_ptr<LogFolder> m_folder;
     std::unique_ptr<pendanttest::LogWatch> m_watch;

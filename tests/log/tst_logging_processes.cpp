@@ -1,3 +1,4 @@
+#include "clock.h"
 #include "logfolder.h"
 
 #include "kite/log.h"
@@ -11,6 +12,9 @@
 namespace {
 
 const int lineCount = 5000;
+const QString first = "kite_20250314.log";
+const int full = 10485760;
+const int almostFull = full - 1000000; // a quarter of what both write
 
 // "1 17 xxxx": process, number, and a filling that both determine.
 QByteArray lineOf(int process, int number) {
@@ -20,8 +24,16 @@ QByteArray lineOf(int process, int number) {
 }
 
 void write(int process, const QString& path) {
+    const Clock clock(noon(2025, 3, 14));
     for (int i = 0; i < lineCount; ++i)
         kite::FLog("", "", path, "log") << lineOf(process, i);
+}
+
+QList<QByteArray> linesOf(const QByteArray& content) {
+    QList<QByteArray> lines = content.split('\n');
+    if (lines.last().isEmpty())
+        lines.removeLast();
+    return lines;
 }
 
 } // namespace
@@ -33,6 +45,22 @@ class TestProcesses : public QObject {
 private slots:
     void linesOfTwoProcessesAreAllThereAndWhole() {
         const LogFolder folder;
+        writeInTwoProcesses(folder);
+        QCOMPARE(folder.names(), QStringList(first));
+        check(folder.lines());
+    }
+
+    void linesOfTwoProcessesAreAllThereThroughARotation() {
+        const LogFolder folder;
+        QVERIFY(folder.make(first, almostFull));
+        writeInTwoProcesses(folder);
+        QCOMPARE(folder.names(), QStringList({first, "kite_20250314_1.log"}));
+        QVERIFY(QFileInfo(folder.path(first)).size() >= full);
+        check(linesOf(folder.content(first).mid(almostFull)) + linesOf(folder.content("kite_20250314_1.log")));
+    }
+
+private:
+    static void writeInTwoProcesses(const LogFolder& folder) {
         QProcess processes[2];
         for (int i = 0; i < 2; ++i) {
             processes[i].setProcessChannelMode(QProcess::ForwardedChannels);
@@ -43,7 +71,9 @@ private slots:
             QVERIFY(process.waitForFinished(60000));
             QCOMPARE(process.exitCode(), 0);
         }
-        const QList<QByteArray> lines = folder.lines();
+    }
+
+    static void check(const QList<QByteArray>& lines) {
         QCOMPARE(lines.size(), 2 * lineCount);
         QVector<QVector<bool>> seen(2, QVector<bool>(lineCount));
         for (const QByteArray& line : lines) {

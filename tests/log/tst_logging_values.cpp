@@ -20,6 +20,10 @@ struct Constants {
 
 enum Plain { Zero, One };
 enum class Scoped : quint8 { Five = 5 };
+enum class Greatest : qulonglong { Value = std::numeric_limits<qulonglong>::max() };
+enum class Least : qlonglong { Value = std::numeric_limits<qlonglong>::min() };
+enum class Truth : bool { Yes = true };
+enum class Letter : char { C = 'c' };
 
 QString text(const QByteArray& bytes) {
     return QString::fromUtf8(bytes);
@@ -118,6 +122,10 @@ private slots:
         expect("0", [](auto& log) { log << Zero; });
         expect("1", [](auto& log) { log << One; });
         expect("5", [](auto& log) { log << Scoped::Five; });
+        expect("18446744073709551615", [](auto& log) { log << Greatest::Value; });
+        expect("-9223372036854775808", [](auto& log) { log << Least::Value; });
+        expect("1", [](auto& log) { log << Truth::Yes; });
+        expect("99", [](auto& log) { log << Letter::C; });
     }
 
     void textsOfQtAreText() {
@@ -144,6 +152,13 @@ private slots:
         expect("2025-03-14", [](auto& log) { log << QDate(2025, 3, 14); });
     }
 
+    void aListHasNoText() {
+        expect("", [](auto& log) { log << QStringList({"a", "b"}); });
+        expect("", [](auto& log) { log << QVariantList({1, 2}); });
+        expect("", [](auto& log) { log << QVariantMap({{"a", 1}}); });
+        expect("a", [](auto& log) { log << QStringList("a"); });
+    }
+
     void aPointerIsItsAddress() {
         const auto pointer = reinterpret_cast<void*>(quintptr(0xabc123));
         const auto object = reinterpret_cast<QObject*>(quintptr(0xdef456));
@@ -152,6 +167,16 @@ private slots:
         expect("0xdef456", [&](auto& log) { log << object; });
         expect("0xfff", [&](auto& log) { log << numbers; });
         expect("0xabc123", [&](auto& log) { log << static_cast<const void*>(pointer); });
+    }
+
+    void aPointerToWhatIsVolatileIsItsAddress() {
+        const auto number = reinterpret_cast<volatile int*>(quintptr(0xabc123));
+        const auto constant = reinterpret_cast<const volatile void*>(quintptr(0xdef456));
+        const auto letters = reinterpret_cast<volatile char*>(quintptr(0xfff));
+        expect("0xabc123", [&](auto& log) { log << number; });
+        expect("0xdef456", [&](auto& log) { log << constant; });
+        expect("0xfff", [&](auto& log) { log << letters; });
+        expect("0x0", [](auto& log) { log << static_cast<volatile int*>(nullptr); });
     }
 
     void noPointerIsTheAddressZero() {
