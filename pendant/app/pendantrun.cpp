@@ -6,6 +6,7 @@
 #include "pages/settingspage.h"
 #include "pages/startpage.h"
 #include "preferences.h"
+#include "project/settings.h"
 #include "project/workspace.h"
 #include "state/statewriter.h"
 
@@ -22,6 +23,13 @@ Theme dressed(Application& application, const Options& options) {
     application.setLanguage(options.language.isEmpty() ? Preferences::language() : options.language);
     application.applyTheme(theme);
     return theme;
+}
+
+// The virtual controller answers on this machine; what a person has set stays.
+void declareAddress() {
+    const QString key = QStringLiteral("server.ip");
+    if (settings::text(key).isEmpty())
+        settings::setText(key, QStringLiteral("127.0.0.1"));
 }
 
 void warn(const QString& text) {
@@ -52,6 +60,7 @@ QString PendantRun::prepare() {
         !controller->keepValuesIn(QDir::current().filePath(QStringLiteral("controller.json")), &error))
         return error;
     Workspace::declare();
+    declareAddress();
     const QString host = QStringLiteral("host.info");
     statewriter::write(host, controller->bus()->value(host).get(), nullptr);
     return QString();
