@@ -5,6 +5,7 @@
 #include "livevalue.h"
 #include "project/projectkeys.h"
 #include "state/statekeys.h"
+#include "state/statelink.h"
 #include "statusitem.h"
 #include "statusroom.h"
 
@@ -21,14 +22,15 @@ const QString mode = QStringLiteral("mode");
 const QString state = QStringLiteral("state");
 const QString tool = QStringLiteral("tool");
 const QString workObject = QStringLiteral("workobject");
+const QString forced = QStringLiteral("forced");
 
 } // namespace
 
 StatusItems::StatusItems(tarp::StatusBar* bar, const Theme& theme) : QObject(bar), m_bar(bar), m_theme(theme) {
-    for (const QString& name : {bus, controller, power, mode, state, tool, workObject})
+    for (const QString& name : {bus, controller, power, mode, state, forced, tool, workObject})
         add(name);
-    // Whoever stands at the machine has to read these two, however many items plugins bring.
-    for (const QString& name : {bus, controller})
+    // Whoever stands at the machine has to read these, however many items plugins bring.
+    for (const QString& name : {bus, controller, forced})
         m_items[name]->setShownWhole(true);
     followLinks();
     follow(power, statekeys::power());
@@ -36,6 +38,7 @@ StatusItems::StatusItems(tarp::StatusBar* bar, const Theme& theme) : QObject(bar
     follow(state, statekeys::robotState());
     follow(tool, projectkeys::tool());
     follow(workObject, projectkeys::workObject());
+    connect(&m_forced, &ForcedCount::changed, this, &StatusItems::showForced);
     retranslate();
     bar->installEventFilter(this);
     new StatusRoom(bar, {m_items[power], m_items[mode], m_items[state], m_items[tool], m_items[workObject]},
@@ -84,6 +87,7 @@ void StatusItems::followLinks() {
     helm::ControllerManager* manager = helm::ManagerHelper::instance()->controllerManager();
     connect(relay()->mobj()->c(QStringLiteral("connected"), true), &brisk::ModuleObject::changed, this,
             &StatusItems::showBus);
+    statelink::follow(this, [this] { showRobot(); });
     connect(manager, &helm::ControllerManager::rcConnected, this, &StatusItems::showController);
     connect(manager, &helm::ControllerManager::rcDisconnected, this, &StatusItems::showController);
 }
@@ -94,12 +98,24 @@ void StatusItems::retranslate() {
     m_items[power]->setCaption(tr("Drives"));
     m_items[mode]->setCaption(tr("Mode"));
     m_items[state]->setCaption(tr("Robot"));
+    m_items[forced]->setCaption(tr("Forced", "signals"));
     m_items[tool]->setCaption(tr("Tool"));
     m_items[workObject]->setCaption(tr("Work object"));
     showBus();
     showController();
+    showForced();
     for (const QString& name : {power, mode, state, tool, workObject})
         show(name);
+}
+
+void StatusItems::showRobot() {
+    for (const QString& name : {power, mode, state})
+        show(name);
+}
+
+// What was told last may be long gone.
+QString StatusItems::toldOf(const QString& name) const {
+    return statelink::isCurrent() ? m_values.value(name) : QString();
 }
 
 void StatusItems::showBus() {
@@ -119,7 +135,7 @@ void StatusItems::showLink(const QString& name, bool up) {
 }
 
 void StatusItems::showPower() {
-    const QString value = m_values.value(power);
+    const QString value = toldOf(power);
     if (value == QLatin1String("on"))
         m_items[power]->setValue(tr("On", "drive power"), power, StatusItem::State::Good);
     else if (value == QLatin1String("off"))
@@ -129,7 +145,7 @@ void StatusItems::showPower() {
 }
 
 void StatusItems::showMode() {
-    const QString value = m_values.value(mode);
+    const QString value = toldOf(mode);
     const QHash<QString, QString> words{{QString(), tr("Unknown")},
                                         {QStringLiteral("manual"), tr("Manual")},
                                         {QStringLiteral("auto"), tr("Automatic")}};
@@ -137,7 +153,7 @@ void StatusItems::showMode() {
 }
 
 void StatusItems::showRobotState() {
-    const QString value = m_values.value(state);
+    const QString value = toldOf(state);
     const QHash<QString, QString> words{{QString(), tr("Unknown")},
                                         {QStringLiteral("idle"), tr("Standing")},
                                         {QStringLiteral("off"), tr("Standing")},
@@ -149,6 +165,13 @@ void StatusItems::showRobotState() {
     const QString icon = isError ? QStringLiteral("error") : moves ? QStringLiteral("moving") : QStringLiteral("stop");
     m_items[state]->setValue(words.value(value, value), icon,
                              isError ? StatusItem::State::Error : StatusItem::State::Neutral);
+}
+
+// Whatever page is in front: a forced input hides what stands at the machine.
+void StatusItems::showForced() {
+    const int count = m_forced.count();
+    m_items[forced]->setValue(QString::number(count), forced, StatusItem::State::Warning);
+    m_items[forced]->setVisible(count > 0);
 }
 
 void StatusItems::showName(const QString& name, const QString& fallback) {

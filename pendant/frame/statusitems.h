@@ -1,5 +1,6 @@
 #pragma once
 
+#include "state/forcedcount.h"
 #include "style/theme.h"
 #include "tarp/containers.h"
 
@@ -11,7 +12,8 @@ namespace pendant {
 
 class StatusItem;
 
-/// The robot's values in the status bar, live: links, drives, mode, state, tool and work object.
+/// The robot's values in the status bar, live: links, drives, mode, state, forced signals, tool and work object. How
+/// the robot is, is unknown until the controller has told it.
 class StatusItems : public QObject {
     Q_OBJECT
 
@@ -28,6 +30,9 @@ private:
     void follow(const QString& name, const QString& key);
     void show(const QString& name);
     void followLinks();
+    void showRobot();
+    void showForced();
+    QString toldOf(const QString& name) const;
     void retranslate();
     void showBus();
     void showController();
@@ -39,6 +44,7 @@ private:
 
     tarp::StatusBar* m_bar;
     Theme m_theme;
+    ForcedCount m_forced;
     QHash<QString, StatusItem*> m_items;
     QHash<QString, QString> m_values; ///< as the tree has them, by the name of the item
 };

@@ -31,7 +31,18 @@ void LogSearch::start(const LogFilter& filter) {
     m_upper = m_newest;
     m_end = m_newest;
     m_done = false;
-    m_timer.start();
+    goOn();
+}
+
+void LogSearch::goOn() {
+    if (isActive() && !m_isPaused)
+        m_timer.start();
+}
+
+void LogSearch::setPaused(bool paused) {
+    m_isPaused = paused;
+    m_timer.stop();
+    goOn();
 }
 
 void LogSearch::stop() {
@@ -51,7 +62,7 @@ void LogSearch::textGrown() {
     if (!isActive())
         return;
     m_hits.dropBefore(m_text->firstFile());
-    m_timer.start();
+    goOn();
 }
 
 double LogSearch::progress() const {

@@ -27,16 +27,21 @@ public:
     void stop();
     /// Drops what was found and looks at nothing any more.
     void forget();
+    /// Looks at nothing while it is paused, and goes on where it was.
+    void setPaused(bool paused);
     /// To be called when the text has grown; after any other change it is start() again.
     void textGrown();
 
     bool isActive() const { return m_matcher != nullptr; }
+    bool isPaused() const { return m_isPaused; }
     /// Whether it still looks back.
     bool isRunning() const { return isActive() && !m_done; }
     /// Whether it has looked at everything.
     bool isComplete() const { return m_complete; }
     /// How much has been looked at, 0 to 1.
     double progress() const;
+    /// Whether everything from `place` on has been looked at.
+    bool hasReached(const LogPlace& place) const { return m_complete || !(place < m_upper); }
     const LogHits& hits() const { return m_hits; }
 
 signals:
@@ -44,6 +49,7 @@ signals:
     void progressed(bool found);
 
 private:
+    void goOn();
     void slice();
     bool step();
     bool stepForward();
@@ -63,6 +69,7 @@ private:
     bool m_found = false;
     bool m_done = true;
     bool m_complete = false;
+    bool m_isPaused = false;
 };
 
 } // namespace pendant

@@ -5,6 +5,7 @@
 #include "ioregisterspart.h"
 #include "iosignalspart.h"
 #include "project/links.h"
+#include "state/statelink.h"
 #include "style/icons.h"
 
 #include <QVariant>
@@ -14,9 +15,10 @@ namespace pendant {
 IoPage::IoPage(const Theme& theme, QWidget* parent)
     : Page(QStringLiteral("ioPage"), theme, parent), m_find(new QLineEdit(this)), m_count(new QLabel(this)),
       m_forcedIcon(new QLabel(this)), m_forcedText(new QLabel(this)), m_releaseAll(new QPushButton(this)),
-      m_offline(new QWidget(this)), m_offlineIcon(new QLabel(m_offline)), m_offlineText(new QLabel(m_offline)),
-      m_stack(new QStackedWidget(this)), m_signals(new IoSignalsPart(theme, this)),
-      m_registers(new IoRegistersPart(theme, this)), m_empty(new EmptyState(this)) {
+      m_keepForced(new QPushButton(this)), m_releaseNow(new QPushButton(this)), m_offline(new QWidget(this)),
+      m_offlineIcon(new QLabel(m_offline)), m_offlineText(new QLabel(m_offline)), m_stack(new QStackedWidget(this)),
+      m_signals(new IoSignalsPart(theme, this)), m_registers(new IoRegistersPart(theme, this)),
+      m_empty(new EmptyState(this)) {
     addPart(Inputs, QStringLiteral("ioInputs"));
     addPart(Outputs, QStringLiteral("ioOutputs"));
     addPart(Registers, QStringLiteral("ioRegistersPart"));
@@ -25,10 +27,12 @@ IoPage::IoPage(const Theme& theme, QWidget* parent)
     connect(m_find, &QLineEdit::textChanged, m_signals->model(), &IoSignalsModel::setFilter);
     connect(m_find, &QLineEdit::textChanged, m_registers, &IoRegistersPart::setFilter);
     connect(m_find, &QLineEdit::textChanged, this, &IoPage::showState);
-    connect(m_releaseAll, &QPushButton::clicked, this, &IoPage::releaseAll);
+    connect(m_releaseAll, &QPushButton::clicked, this, [this] { askToRelease(true); });
+    connect(m_keepForced, &QPushButton::clicked, this, [this] { askToRelease(false); });
+    connect(m_releaseNow, &QPushButton::clicked, this, &IoPage::releaseAll);
     connect(m_signals->model(), &IoSignalsModel::refreshed, this, &IoPage::showState);
     connect(m_registers->model(), &RecordsModel::refreshed, this, &IoPage::showState);
-    links::follow(this, [this] { showOnline(); });
+    statelink::follow(this, [this] { showOnline(); });
     setTheme(theme);
     retranslate();
 }
@@ -52,13 +56,16 @@ void IoPage::arrange() {
     m_forcedText->setProperty("strong", true);
     m_forcedText->setProperty("state", QStringLiteral("warning"));
     m_releaseAll->setObjectName(QStringLiteral("ioReleaseAll"));
+    m_keepForced->setObjectName(QStringLiteral("ioKeepForced"));
+    m_releaseNow->setObjectName(QStringLiteral("ioReleaseNow"));
     auto* row = new QHBoxLayout;
     row->setSpacing(8);
     row->addWidget(m_find, 1);
     row->addWidget(m_count);
     row->addWidget(m_forcedIcon);
     row->addWidget(m_forcedText);
-    row->addWidget(m_releaseAll);
+    for (QPushButton* button : {m_releaseAll, m_keepForced, m_releaseNow})
+        row->addWidget(button);
     m_offlineText->setObjectName(QStringLiteral("ioOffline"));
     m_offlineText->setProperty("strong", true);
     m_offlineText->setProperty("state", QStringLiteral("warning"));
@@ -91,7 +98,7 @@ void IoPage::retranslate() {
     m_parts.button(Registers)->setText(tr("Registers"));
     m_find->setPlaceholderText(tr("Find by name"));
     m_releaseAll->setText(tr("Release all"));
-    m_offlineText->setText(tr("No connection: these are the last values that were told."));
+    m_keepForced->setText(tr("Keep them"));
     m_signals->retranslate();
     m_registers->retranslate();
     showOnline();
@@ -105,6 +112,7 @@ void IoPage::showEvent(QShowEvent* event) {
 
 void IoPage::hideEvent(QHideEvent* event) {
     Page::hideEvent(event);
+    askToRelease(false);
     m_signals->model()->setActive(false);
     m_registers->model()->setActive(false);
 }
@@ -122,6 +130,11 @@ void IoPage::showOnline() {
     m_signals->setOnline(online);
     m_registers->setOnline(online);
     m_releaseAll->setEnabled(online);
+    m_releaseNow->setEnabled(online);
+    m_offlineText->setText(statelink::isAwaited()
+                               ? tr("The robot has not yet told its values: these may be old. It is asked again.")
+                               : tr("No connection: these are the last values that were told. “Links” in the developer "
+                                    "dock (F12) brings it up."));
     showState();
 }
 
@@ -133,7 +146,7 @@ void IoPage::showState() {
     m_empty->setVisible(shown == 0);
     m_find->setEnabled(all > 0);
     m_count->setText(shown == all ? QString::number(all) : tr("%1 of %2").arg(shown).arg(all));
-    m_offline->setVisible(all > 0 && !links::isBusUp());
+    m_offline->setVisible(all > 0 && !statelink::isCurrent());
     showForced();
     if (shown == 0)
         showEmpty(all);
@@ -142,6 +155,8 @@ void IoPage::showState() {
 void IoPage::showEmpty(int all) {
     if (all > 0)
         return m_empty->setTexts(tr("Nothing of this name"), tr("Clear the field above to see all."));
+    if (statelink::isAwaited())
+        return m_empty->setTexts(tr("The robot has not yet told its values"), tr("It is asked again."));
     if (!links::isBusUp())
         return m_empty->setTexts(tr("No connection to the robot"),
                                  tr("Signals and registers are listed here as soon as the link to the bus is up. "
@@ -158,13 +173,24 @@ void IoPage::showEmpty(int all) {
 // Wherever they are: one that is out of sight must not be forgotten.
 void IoPage::showForced() {
     const int forced = m_signals->model()->forced().size();
+    m_asksToRelease = m_asksToRelease && forced > 0;
     m_forcedText->setText(tr("%1 forced").arg(forced));
-    for (QWidget* widget : {static_cast<QWidget*>(m_forcedIcon), static_cast<QWidget*>(m_forcedText),
-                            static_cast<QWidget*>(m_releaseAll)})
+    m_releaseNow->setText(tr("Release %1").arg(forced));
+    for (QWidget* widget : {static_cast<QWidget*>(m_forcedIcon), static_cast<QWidget*>(m_forcedText)})
         widget->setVisible(forced > 0);
+    m_releaseAll->setVisible(forced > 0 && !m_asksToRelease);
+    m_keepForced->setVisible(m_asksToRelease);
+    m_releaseNow->setVisible(m_asksToRelease);
+}
+
+// Whoever forced them may rely on it.
+void IoPage::askToRelease(bool asks) {
+    m_asksToRelease = asks;
+    showForced();
 }
 
 void IoPage::releaseAll() {
+    askToRelease(false);
     const QStringList forced = m_signals->model()->forced();
     for (const QString& name : forced)
         ioSignals::release(this, name);

@@ -38,6 +38,7 @@ private:
     void showState();
     void showEmpty(int all);
     void showForced();
+    void askToRelease(bool asks);
     void releaseAll();
 
     QButtonGroup m_parts;
@@ -46,6 +47,9 @@ private:
     QLabel* m_forcedIcon;
     QLabel* m_forcedText;
     QPushButton* m_releaseAll;
+    QPushButton* m_keepForced;
+    QPushButton* m_releaseNow;
+    bool m_asksToRelease = false;
     QWidget* m_offline;
     QLabel* m_offlineIcon;
     QLabel* m_offlineText;

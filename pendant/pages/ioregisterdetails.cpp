@@ -11,12 +11,18 @@ namespace pendant {
 namespace {
 
 const int editHeight = 112;
+const int mostOfOthers = 60;
+
+// One value, an empty one, looks as none at all does.
+bool isOneEmpty(const QStringList& values) {
+    return values.size() == 1 && values.first().isEmpty();
+}
 
 } // namespace
 
 IoRegisterDetails::IoRegisterDetails(QWidget* parent)
     : QWidget(parent), m_name(new ElidedLabel(this)), m_hint(new QLabel(this)), m_edit(new QPlainTextEdit(this)),
-      m_undo(new QPushButton(this)), m_set(new QPushButton(this)) {
+      m_note(new QLabel(this)), m_undo(new QPushButton(this)), m_set(new QPushButton(this)) {
     setObjectName(QStringLiteral("card"));
     setAttribute(Qt::WA_StyledBackground);
     m_name->setObjectName(QStringLiteral("registerName"));
@@ -25,6 +31,10 @@ IoRegisterDetails::IoRegisterDetails(QWidget* parent)
     m_edit->setObjectName(QStringLiteral("registerValues"));
     m_edit->setFixedHeight(editHeight);
     m_edit->setTabChangesFocus(true);
+    m_note->setObjectName(QStringLiteral("registerNote"));
+    m_note->setProperty("state", QStringLiteral("warning"));
+    m_note->setTextFormat(Qt::PlainText);
+    m_note->setWordWrap(true);
     m_undo->setObjectName(QStringLiteral("registerUndo"));
     m_set->setObjectName(QStringLiteral("registerSet"));
     connect(m_edit, &QPlainTextEdit::textChanged, this, [this] {
@@ -48,7 +58,7 @@ void IoRegisterDetails::arrange() {
     grid->addWidget(m_edit, 1, 0, 1, 3);
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(8);
-    buttons->addStretch();
+    buttons->addWidget(m_note, 1);
     buttons->addWidget(m_undo);
     buttons->addWidget(m_set);
     grid->setRowMinimumHeight(2, 4);
@@ -63,11 +73,13 @@ void IoRegisterDetails::setRegister(const QString& name, const QStringList& valu
     m_values = values;
     m_name->setText(name);
     setVisible(!name.isEmpty());
+    m_isEdited = m_isEdited && !isOther;
     if (isOther || (isNew && !m_isEdited))
         showValues();
     // Set by this or by somebody else, it says what was typed.
     if (m_isEdited && typed() == values)
         showValues();
+    showState();
 }
 
 void IoRegisterDetails::setOnline(bool online) {
@@ -78,16 +90,33 @@ void IoRegisterDetails::retranslate() {
     m_hint->setText(tr("One value a line"));
     m_undo->setText(tr("Undo"));
     m_set->setText(tr("Set"));
+    showState();
 }
 
 void IoRegisterDetails::showState() {
     m_undo->setEnabled(m_isEdited);
     m_set->setEnabled(m_isEdited);
+    m_edit->setReadOnly(m_isLocked);
+    m_edit->setPlaceholderText(!m_isEdited && isOneEmpty(m_values) ? tr("One value, an empty one") : tr("No value"));
+    m_note->setText(noteText());
+}
+
+QString IoRegisterDetails::noteText() const {
+    if (m_isLocked)
+        return tr("A value has a line break in it: these values cannot be changed here.");
+    if (!isOvertaken())
+        return QString();
+    const QString others = m_values.join(QStringLiteral(", "));
+    const bool isLong = others.size() > mostOfOthers;
+    return tr("“Set” overwrites what came meanwhile: %1")
+        .arg(isLong ? others.left(mostOfOthers) + QChar(0x2026) : others);
 }
 
 void IoRegisterDetails::showValues() {
     if (typed() != m_values)
         m_edit->setPlainText(m_values.join(QLatin1Char('\n')));
+    m_isLocked = typed() != m_values && !isOneEmpty(m_values);
+    m_before = m_values;
     m_isEdited = false;
     showState();
 }
@@ -98,8 +127,10 @@ void IoRegisterDetails::ask() {
 
 // An empty field is no value at all; an empty line among others is an empty value.
 QStringList IoRegisterDetails::typed() const {
-    const QString text = m_edit->toPlainText();
-    return text.isEmpty() ? QStringList() : text.split(QLatin1Char('\n'));
+    // The plain text would have ordinary spaces for those that do not break.
+    QString text = m_edit->document()->toRawText();
+    text.replace(QChar::LineSeparator, QChar::ParagraphSeparator);
+    return text.isEmpty() ? QStringList() : text.split(QChar::ParagraphSeparator);
 }
 
 } // namespace pendant

@@ -2,10 +2,13 @@
 
 #include "frame/elidedlabel.h"
 #include "iosignalsmodel.h"
+#include "style/icons.h"
 
 #include <QHBoxLayout>
 #include <QLocale>
 #include <QVariant>
+
+#include <cmath>
 
 namespace pendant {
 
@@ -32,7 +35,7 @@ IoSignalDetails::IoSignalDetails(QWidget* parent)
     // As the list writes them.
     m_number->setLocale(QLocale::c());
     m_number->setMinimumWidth(208);
-    connect(m_number, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, [this] { m_isEdited = true; });
+    connect(m_number, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, [this] { setEdited(true); });
     auto* words = new QVBoxLayout;
     words->setSpacing(0);
     words->addStretch();
@@ -44,6 +47,10 @@ IoSignalDetails::IoSignalDetails(QWidget* parent)
     row->setSpacing(8);
     row->addLayout(words, 1);
     row->addWidget(m_number);
+    m_undo = addButton(QStringLiteral("ioUndo"), [this] {
+        setEdited(false);
+        showNumber();
+    });
     m_off = addButton(QStringLiteral("ioOff"), [this] { ask(false); });
     m_on = addButton(QStringLiteral("ioOn"), [this] { ask(true); });
     m_set = addButton(QStringLiteral("ioSet"), [this] { ask(m_number->value()); });
@@ -63,7 +70,7 @@ QPushButton* IoSignalDetails::addButton(const QString& name, const std::function
 void IoSignalDetails::setSignal(const Signal& signal) {
     const bool isOther = signal.name != m_signal.name || signal.type != m_signal.type;
     m_signal = signal;
-    m_isEdited = m_isEdited && !isOther;
+    setEdited(m_isEdited && !isOther && !showsWhatIsTyped());
     if (isOther)
         retranslate();
     showSignal();
@@ -73,6 +80,11 @@ void IoSignalDetails::setOnline(bool online) {
     setEnabled(online);
 }
 
+void IoSignalDetails::setTheme(const Theme& theme) {
+    m_undo->setIcon(lineIcon(QStringLiteral("undo"), theme.color(QStringLiteral("text")), theme));
+    m_undo->setIconSize({24, 24});
+}
+
 void IoSignalDetails::retranslate() {
     const bool forces = isInput(m_signal.type);
     m_type->setText(IoSignalsModel::typeText(m_signal.type));
@@ -80,6 +92,9 @@ void IoSignalDetails::retranslate() {
     m_on->setText(forces ? tr("Force on") : tr("On", "switch"));
     m_set->setText(forces ? tr("Force") : tr("Set"));
     m_release->setText(tr("Release"));
+    // Its words would leave no room for the name.
+    m_undo->setToolTip(tr("Undo: the value of the signal"));
+    m_undo->setAccessibleName(m_undo->toolTip());
 }
 
 void IoSignalDetails::showSignal() {
@@ -89,7 +104,7 @@ void IoSignalDetails::showSignal() {
     m_on->setVisible(digital);
     m_number->setVisible(!digital);
     m_set->setVisible(!digital);
-    m_release->setVisible(isInput(m_signal.type));
+    showUndo();
     m_release->setEnabled(isEnabled() && m_signal.isForced);
     setVisible(!m_signal.name.isEmpty());
     if (!digital && !m_isEdited)
@@ -104,9 +119,25 @@ void IoSignalDetails::showNumber() {
     m_number->setValue(m_signal.value.toDouble());
 }
 
-// The field shows the signal again when it has what was asked for.
+void IoSignalDetails::setEdited(bool edited) {
+    m_isEdited = edited;
+    m_undo->setEnabled(edited);
+    showUndo();
+}
+
+// On a small screen there is room for one of the two.
+void IoSignalDetails::showUndo() {
+    const bool canUndo = m_isEdited && !isDigital(m_signal.type);
+    m_undo->setVisible(canUndo);
+    m_release->setVisible(!canUndo && isInput(m_signal.type));
+}
+
+bool IoSignalDetails::showsWhatIsTyped() const {
+    return qAbs(m_number->value() - m_signal.value.toDouble()) < std::pow(0.1, placesOfAnalogue) / 2;
+}
+
+// What the controller refuses stays in the field.
 void IoSignalDetails::ask(const QVariant& value) {
-    m_isEdited = false;
     const QVariant wanted = isGroup(m_signal.type) ? QVariant(value.toInt()) : value;
     if (isInput(m_signal.type))
         ioSignals::force(this, m_signal.name, wanted);

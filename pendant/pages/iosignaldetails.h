@@ -1,6 +1,7 @@
 #pragma once
 
 #include "state/signals.h"
+#include "style/theme.h"
 
 #include <QDoubleSpinBox>
 #include <QLabel>
@@ -20,16 +21,21 @@ class IoSignalDetails : public QWidget {
 public:
     explicit IoSignalDetails(QWidget* parent = nullptr);
 
-    /// Shows `signal`; hidden for one without a name.
+    /// Shows `signal`; hidden for one without a name. A number that somebody has typed stays until the signal has it or
+    /// it is undone.
     void setSignal(const Signal& signal);
     /// Whether anything can be asked of the controller.
     void setOnline(bool online);
+    void setTheme(const Theme& theme);
     void retranslate();
 
 private:
     QPushButton* addButton(const QString& name, const std::function<void()>& press);
     void showSignal();
     void showNumber();
+    void setEdited(bool edited);
+    void showUndo();
+    bool showsWhatIsTyped() const;
     void ask(const QVariant& value);
 
     Signal m_signal;
@@ -37,6 +43,7 @@ private:
     ElidedLabel* m_name;
     QLabel* m_type;
     QDoubleSpinBox* m_number;
+    QPushButton* m_undo;
     QPushButton* m_off;
     QPushButton* m_on;
     QPushButton* m_set;

@@ -70,6 +70,7 @@ void IoSignalsPart::setOnline(bool online) {
 
 void IoSignalsPart::setTheme(const Theme& theme) {
     m_delegate->setTheme(theme);
+    m_details->setTheme(theme);
     m_list->viewport()->update();
 }
 

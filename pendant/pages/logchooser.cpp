@@ -73,7 +73,7 @@ void LogChooser::listLogs() {
         if (logs.isEmpty() || logs.last() != file.log)
             logs.append(file.log);
     }
-    const QString shown = logs.contains(m_wantedLog) ? m_wantedLog : defaultLog();
+    const QString shown = logToShow(logs);
     QStringList before;
     for (int i = 0; i < m_logs->count(); ++i)
         before.append(m_logs->itemText(i));
@@ -123,6 +123,15 @@ QVector<QVariant> LogChooser::days() const {
         }
     }
     return result;
+}
+
+// Somebody may be reading the one that is shown.
+QString LogChooser::logToShow(const QStringList& logs) const {
+    for (const QString& log : {m_wantedLog, m_logs->currentText()}) {
+        if (logs.contains(log))
+            return log;
+    }
+    return defaultLog();
 }
 
 QString LogChooser::defaultLog() const {

@@ -7,8 +7,8 @@
 
 namespace pendant {
 
-/// The choice of a log, and of one of its days or files. Without a choice it is the log with the newest day, and all of
-/// it.
+/// The choice of a log, and of one of its days or files. Without a choice it is the log with the newest day when
+/// the first are listed, and all of it.
 class LogChooser : public QWidget {
     Q_OBJECT
 
@@ -29,6 +29,7 @@ private:
     void listLogs();
     void listDays();
     QVector<QVariant> days() const;
+    QString logToShow(const QStringList& logs) const;
     QString defaultLog() const;
 
     QVector<LogFile> m_files;

@@ -2,6 +2,7 @@
 
 #include "style/icons.h"
 
+#include <QAbstractItemView>
 #include <QHBoxLayout>
 #include <QSignalBlocker>
 
@@ -62,13 +63,28 @@ LogFilter LogFilterBar::filter() const {
 }
 
 void LogFilterBar::setModules(const QStringList& modules) {
-    if (modules.size() == m_module->count())
+    // An open list is not taken from under the finger.
+    if (modules == listedModules() || m_module->view()->isVisible())
         return;
     const QSignalBlocker quiet(m_module);
-    const QString typed = m_module->currentText();
+    QLineEdit* edit = m_module->lineEdit();
+    const QString typed = edit->text();
+    const int cursor = edit->cursorPosition();
+    const int selected = edit->selectionStart();
+    const int length = edit->selectedText().size();
     m_module->clear();
     m_module->addItems(modules);
-    m_module->setEditText(typed);
+    edit->setText(typed);
+    edit->setCursorPosition(cursor);
+    if (length > 0)
+        edit->setSelection(selected, length);
+}
+
+QStringList LogFilterBar::listedModules() const {
+    QStringList modules;
+    for (int i = 0; i < m_module->count(); ++i)
+        modules << m_module->itemText(i);
+    return modules;
 }
 
 void LogFilterBar::setTheme(const Theme& theme) {

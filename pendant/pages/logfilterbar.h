@@ -34,6 +34,7 @@ signals:
 
 private:
     void addLevels();
+    QStringList listedModules() const;
 
     QComboBox* m_level;
     QComboBox* m_module;

@@ -11,7 +11,9 @@
 #include "style/icons.h"
 
 #include <QDesktopServices>
+#include <QDir>
 #include <QEvent>
+#include <QFileInfo>
 #include <QUrl>
 
 namespace pendant {
@@ -29,13 +31,14 @@ LogPage::LogPage(const QString& folder, const Theme& theme, QWidget* parent)
       m_chooser(new LogChooser(this)), m_filter(new LogFilterBar(this)), m_timeBar(new LogTimeBar(this)),
       m_time(new QPushButton(this)), m_folder(new QPushButton(this)), m_newest(new QPushButton(this)),
       m_view(new LogView(theme, this)), m_empty(new EmptyState(this)), m_detail(new QPlainTextEdit(this)),
-      m_where(new ElidedLabel(this)), m_state(new QLabel(this)) {
+      m_notice(new QLabel(this)), m_where(new ElidedLabel(this)), m_state(new QLabel(this)) {
     makeParts();
     arrange();
     connectParts();
     m_view->setRows(&m_text, &m_text);
     setTheme(theme);
     retranslate();
+    m_search.setPaused(!isVisible());
 }
 
 void LogPage::makeParts() {
@@ -51,8 +54,12 @@ void LogPage::makeParts() {
     for (QLabel* label : {static_cast<QLabel*>(m_where), m_state})
         label->setProperty("caption", true);
     m_state->setTextFormat(Qt::PlainText);
-    for (QWidget* later :
-         {static_cast<QWidget*>(m_timeBar), static_cast<QWidget*>(m_detail), static_cast<QWidget*>(m_newest)})
+    m_notice->setObjectName(QStringLiteral("logNotice"));
+    m_notice->setProperty("state", QStringLiteral("warning"));
+    m_notice->setTextFormat(Qt::PlainText);
+    m_notice->setWordWrap(true);
+    for (QWidget* later : {static_cast<QWidget*>(m_timeBar), static_cast<QWidget*>(m_detail),
+                           static_cast<QWidget*>(m_newest), static_cast<QWidget*>(m_notice)})
         later->hide();
     // Lies over the view, at its lower right.
     m_newest->setParent(m_view);
@@ -68,6 +75,7 @@ void LogPage::arrange() {
     content()->addWidget(m_view, 1);
     content()->addWidget(m_empty, 1);
     content()->addWidget(m_detail);
+    content()->addWidget(m_notice);
     auto* foot = new QHBoxLayout;
     foot->setSpacing(16);
     foot->addWidget(m_where, 1);
@@ -88,7 +96,9 @@ void LogPage::connectParts() {
         showState();
     });
     connect(&m_search, &LogSearch::progressed, this, [this] {
+        const bool hasMoved = m_sought.hasMoved(*m_view);
         m_view->refresh();
+        showFound(hasMoved);
         showState();
     });
     connect(m_time, &QPushButton::toggled, this, &LogPage::showTimeBar);
@@ -126,17 +136,21 @@ void LogPage::retranslate() {
     m_filter->retranslate();
     m_timeBar->retranslate();
     placeNewest();
+    tellOfFolder(QString());
     showState();
 }
 
 void LogPage::showEvent(QShowEvent* event) {
     Page::showEvent(event);
     m_feed.setActive(true);
+    m_search.setPaused(false);
 }
 
 void LogPage::hideEvent(QHideEvent* event) {
     Page::hideEvent(event);
     m_feed.setActive(false);
+    m_search.setPaused(true);
+    tellOfFolder(QString());
 }
 
 bool LogPage::eventFilter(QObject* watched, QEvent* event) {
@@ -160,6 +174,7 @@ void LogPage::take(LogText::Change change) {
     if (change == LogText::Anew) {
         m_view->startAnew();
         m_applied = LogFilter();
+        m_sought = LogSought();
         m_search.forget();
         m_view->setRows(&m_text, &m_text);
         applyFilter();
@@ -176,6 +191,8 @@ void LogPage::applyFilter() {
     if (filter == m_applied)
         return;
     m_applied = filter;
+    m_sought = LogSought();
+    m_nothingThatLate = false;
     if (filter.isEmpty()) {
         m_view->setRows(&m_text, &m_text);
         m_search.forget();
@@ -187,7 +204,16 @@ void LogPage::applyFilter() {
 }
 
 void LogPage::openFolder() {
-    QDesktopServices::openUrl(QUrl::fromLocalFile(m_feed.folder()));
+    const QString path = QDir::toNativeSeparators(m_feed.folder());
+    if (!QFileInfo(m_feed.folder()).isDir())
+        return tellOfFolder(tr("There is no folder %1 yet. The first line that is logged makes it.").arg(path));
+    const bool isOpened = QDesktopServices::openUrl(QUrl::fromLocalFile(m_feed.folder()));
+    tellOfFolder(isOpened ? QString() : tr("Nothing here opens folders. The log files are in %1").arg(path));
+}
+
+void LogPage::tellOfFolder(const QString& text) {
+    m_notice->setText(text);
+    m_notice->setVisible(!text.isEmpty());
 }
 
 // Opens with the time of what is on the screen.
@@ -206,10 +232,26 @@ void LogPage::showTimeBar(bool visible) {
 }
 
 void LogPage::showTime(const QDateTime& time) {
-    const LogPlace place = seekLogMoment(m_text, logMoment(time.date(), time.time()));
-    m_view->showRow(place);
-    m_nothingThatLate = place == m_text.end();
+    m_sought.place = seekLogMoment(m_text, logMoment(time.date(), time.time()));
+    showFound(false);
     showState();
+}
+
+// A search that still looks back may find what is nearer to the time that somebody went to.
+void LogPage::showFound(bool hasMoved) {
+    if (!m_sought.place.isValid())
+        return;
+    if (hasMoved) {
+        m_sought = LogSought();
+        return;
+    }
+    m_view->showRow(m_sought.place);
+    m_sought.remember(*m_view);
+    const bool isReached = !m_search.isActive() || m_search.hasReached(m_sought.place);
+    const bool isEmpty = m_view->shownRows().isEmpty();
+    m_nothingThatLate = isReached && !isEmpty && !m_view->current().isValid();
+    if (!m_search.isRunning() || (isReached && !isEmpty))
+        m_sought = LogSought();
 }
 
 void LogPage::showDetail() {

@@ -3,6 +3,7 @@
 #include "logs/logfeed.h"
 #include "logs/logsearch.h"
 #include "logs/logtext.h"
+#include "logsought.h"
 #include "page.h"
 
 #include <QDateTime>
@@ -46,6 +47,8 @@ private:
     void take(LogText::Change change);
     void applyFilter();
     void openFolder();
+    void tellOfFolder(const QString& text);
+    void showFound(bool hasMoved);
     void showTimeBar(bool visible);
     void placeNewest();
     void showDetail();
@@ -59,6 +62,7 @@ private:
     LogText m_text;
     LogSearch m_search;
     LogFilter m_applied;
+    LogSought m_sought;
     bool m_nothingThatLate = false;
     LogChooser* m_chooser;
     LogFilterBar* m_filter;
@@ -69,6 +73,7 @@ private:
     LogView* m_view;
     EmptyState* m_empty;
     QPlainTextEdit* m_detail;
+    QLabel* m_notice;
     ElidedLabel* m_where;
     QLabel* m_state;
 };

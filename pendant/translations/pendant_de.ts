@@ -265,10 +265,6 @@
         <translation>Alle freigeben</translation>
     </message>
     <message>
-        <source>No connection: these are the last values that were told.</source>
-        <translation>Keine Verbindung: Das sind die zuletzt gemeldeten Werte.</translation>
-    </message>
-    <message>
         <source>%1 of %2</source>
         <translation>%1 von %2</translation>
     </message>
@@ -308,6 +304,30 @@
         <source>%1 forced</source>
         <translation>%1 erzwungen</translation>
     </message>
+    <message>
+        <source>Keep them</source>
+        <translation>Beibehalten</translation>
+    </message>
+    <message>
+        <source>The robot has not yet told its values: these may be old. It is asked again.</source>
+        <translation>Der Roboter hat seine Werte noch nicht gemeldet: diese können veraltet sein. Er wird erneut gefragt.</translation>
+    </message>
+    <message>
+        <source>No connection: these are the last values that were told. “Links” in the developer dock (F12) brings it up.</source>
+        <translation>Keine Verbindung: dies sind die zuletzt gemeldeten Werte. „Verbindungen“ im Entwicklerfenster (F12) stellt sie her.</translation>
+    </message>
+    <message>
+        <source>The robot has not yet told its values</source>
+        <translation>Der Roboter hat seine Werte noch nicht gemeldet</translation>
+    </message>
+    <message>
+        <source>It is asked again.</source>
+        <translation>Er wird erneut gefragt.</translation>
+    </message>
+    <message>
+        <source>Release %1</source>
+        <translation>%1 freigeben</translation>
+    </message>
 </context>
 <context>
     <name>pendant::IoRegisterDetails</name>
@@ -322,6 +342,22 @@
     <message>
         <source>Set</source>
         <translation>Setzen</translation>
+    </message>
+    <message>
+        <source>One value, an empty one</source>
+        <translation>Ein Wert, ein leerer</translation>
+    </message>
+    <message>
+        <source>No value</source>
+        <translation>Kein Wert</translation>
+    </message>
+    <message>
+        <source>A value has a line break in it: these values cannot be changed here.</source>
+        <translation>Ein Wert enthält einen Zeilenumbruch: diese Werte lassen sich hier nicht ändern.</translation>
+    </message>
+    <message>
+        <source>“Set” overwrites what came meanwhile: %1</source>
+        <translation>„Setzen“ überschreibt, was inzwischen kam: %1</translation>
     </message>
 </context>
 <context>
@@ -373,6 +409,10 @@
     <message>
         <source>Release</source>
         <translation>Freigeben</translation>
+    </message>
+    <message>
+        <source>Undo: the value of the signal</source>
+        <translation>Rückgängig: der Wert des Signals</translation>
     </message>
 </context>
 <context>
@@ -745,6 +785,14 @@
         <source>Live; %1 is written to as well</source>
         <translation>Live; auch in %1 wird geschrieben</translation>
     </message>
+    <message>
+        <source>There is no folder %1 yet. The first line that is logged makes it.</source>
+        <translation>Den Ordner %1 gibt es noch nicht. Die erste protokollierte Zeile legt ihn an.</translation>
+    </message>
+    <message>
+        <source>Nothing here opens folders. The log files are in %1</source>
+        <translation>Hier öffnet nichts Ordner. Die Protokolldateien liegen in %1</translation>
+    </message>
 </context>
 <context>
     <name>pendant::LogTimeBar</name>
@@ -961,10 +1009,6 @@
 <context>
     <name>pendant::OutputWidget</name>
     <message>
-        <source>Type the name of the output.</source>
-        <translation>Geben Sie den Namen des Ausgangs ein.</translation>
-    </message>
-    <message>
         <source>Digital output</source>
         <translation>Digitalausgang</translation>
     </message>
@@ -983,6 +1027,10 @@
     <message>
         <source>Off</source>
         <translation>Aus</translation>
+    </message>
+    <message>
+        <source>Choose the output, or type its name.</source>
+        <translation>Wählen Sie den Ausgang, oder geben Sie seinen Namen ein.</translation>
     </message>
 </context>
 <context>
@@ -1243,6 +1291,10 @@
         <source>Its widget deleted itself in %1.</source>
         <translation>Sein Widget hat sich in %1 selbst gelöscht.</translation>
     </message>
+    <message>
+        <source>Its widget deleted itself.</source>
+        <translation>Seine Bedienfläche hat sich selbst gelöscht.</translation>
+    </message>
 </context>
 <context>
     <name>pendant::ProgramDelegate</name>
@@ -1301,6 +1353,14 @@
         <source>It is kept as it is, and can be moved and deleted. It may belong to a plugin that is not loaded.</source>
         <translation>Sie bleibt, wie sie ist, und kann verschoben und gelöscht werden. Vielleicht gehört sie zu einem Plugin, das nicht geladen ist.</translation>
     </message>
+    <message>
+        <source>The instruction gives no reason.</source>
+        <translation>Die Anweisung nennt keinen Grund.</translation>
+    </message>
+    <message>
+        <source>Not applied yet</source>
+        <translation>Noch nicht übernommen</translation>
+    </message>
 </context>
 <context>
     <name>pendant::ProgramFile</name>
@@ -1331,6 +1391,18 @@
     <message>
         <source>its folder cannot be made.</source>
         <translation>sein Ordner kann nicht angelegt werden.</translation>
+    </message>
+    <message>
+        <source>The program %1 cannot be read: %2</source>
+        <translation>Das Programm %1 lässt sich nicht lesen: %2</translation>
+    </message>
+    <message>
+        <source>the folder of its project is not there.</source>
+        <translation>Der Ordner seines Projekts ist nicht da.</translation>
+    </message>
+    <message>
+        <source>What stands in %1 now cannot be read, and nothing was written over it: %2</source>
+        <translation>Was jetzt in %1 steht, lässt sich nicht lesen und wurde nicht überschrieben: %2</translation>
     </message>
 </context>
 <context>
@@ -1392,8 +1464,24 @@
         <translation>Änderungen von früher, die nicht gespeichert waren, stehen wieder im Programm. Speichern Sie sie, oder nehmen Sie sie mit „Rückgängig“ zurück.</translation>
     </message>
     <message>
-        <source>The robot program of the open project is edited here. The project comes from the controller when the links are up. %1</source>
-        <translation>Hier wird das Roboterprogramm des geöffneten Projekts bearbeitet. Das Projekt kommt von der Steuerung, sobald die Verbindungen stehen. %1</translation>
+        <source>Try again</source>
+        <translation>Erneut versuchen</translation>
+    </message>
+    <message>
+        <source>Not inserted: the line of “%1” that was begun.</source>
+        <translation>Nicht eingefügt: die begonnene Zeile von „%1“.</translation>
+    </message>
+    <message>
+        <source>Not applied: what was entered in line %1 is not in the program.</source>
+        <translation>Nicht übernommen: Was in Zeile %1 eingegeben wurde, steht nicht im Programm.</translation>
+    </message>
+    <message>
+        <source>The program cannot be read</source>
+        <translation>Das Programm lässt sich nicht lesen</translation>
+    </message>
+    <message>
+        <source>The robot program of the open project is edited here. %1 Open a project, or make one, on the page “Projects”.</source>
+        <translation>Hier wird das Roboterprogramm des offenen Projekts bearbeitet. %1 Öffnen Sie auf der Seite „Projekte“ ein Projekt, oder legen Sie eines an.</translation>
     </message>
 </context>
 <context>
@@ -1413,6 +1501,14 @@
     <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Above</source>
+        <translation>Darüber</translation>
+    </message>
+    <message>
+        <source>Insert above the line at the cursor</source>
+        <translation>Über der Zeile am Cursor einfügen</translation>
     </message>
 </context>
 <context>
@@ -1443,6 +1539,26 @@
     <message>
         <source>The program was not written: its project was deleted.</source>
         <translation>Das Programm wurde nicht geschrieben: Sein Projekt wurde gelöscht.</translation>
+    </message>
+    <message>
+        <source>There are unsaved changes of an older program %1. They were not taken up: it was saved since.</source>
+        <translation>Es gibt nicht gespeicherte Änderungen eines älteren Programms %1. Sie wurden nicht aufgenommen: Es wurde seither gespeichert.</translation>
+    </message>
+    <message>
+        <source>It cannot be renamed, so changes are kept by “Save” only.</source>
+        <translation>Sie lässt sich nicht umbenennen; Änderungen bewahrt nur „Speichern“.</translation>
+    </message>
+    <message>
+        <source>Changes that are not saved are not kept: %1 is in the way and cannot be renamed.</source>
+        <translation>Nicht gespeicherte Änderungen werden nicht aufbewahrt: %1 ist im Weg und lässt sich nicht umbenennen.</translation>
+    </message>
+    <message>
+        <source>The program was not written: somebody else has changed %1 since it was opened. Save once more to write yours; the other one is then kept beside it as %2.</source>
+        <translation>Das Programm wurde nicht geschrieben: Jemand anders hat %1 seit dem Öffnen geändert. Speichern Sie noch einmal, um Ihres zu schreiben; das andere bleibt dann daneben als %2.</translation>
+    </message>
+    <message>
+        <source>The program was not written: what somebody else has written cannot be copied to %1.</source>
+        <translation>Das Programm wurde nicht geschrieben: Was jemand anders geschrieben hat, lässt sich nicht nach %1 kopieren.</translation>
     </message>
 </context>
 <context>
@@ -1540,6 +1656,10 @@
     <message>
         <source>Its line: %1</source>
         <translation>Seine Zeile: %1</translation>
+    </message>
+    <message>
+        <source>“%1” made an empty line, which was not taken.</source>
+        <translation>„%1“ hat eine leere Zeile geliefert; sie wurde nicht übernommen.</translation>
     </message>
 </context>
 <context>
@@ -1956,6 +2076,11 @@
     <message>
         <source>Error</source>
         <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Forced</source>
+        <comment>signals</comment>
+        <translation>Erzwungen</translation>
     </message>
 </context>
 <context>

@@ -265,10 +265,6 @@
         <translation>全部释放</translation>
     </message>
     <message>
-        <source>No connection: these are the last values that were told.</source>
-        <translation>无连接：这些是最后收到的值。</translation>
-    </message>
-    <message>
         <source>%1 of %2</source>
         <translation>%1 / %2</translation>
     </message>
@@ -308,6 +304,30 @@
         <source>%1 forced</source>
         <translation>强制 %1 个</translation>
     </message>
+    <message>
+        <source>Keep them</source>
+        <translation>保留</translation>
+    </message>
+    <message>
+        <source>The robot has not yet told its values: these may be old. It is asked again.</source>
+        <translation>机器人尚未报告其数值：此处显示的可能已过时。将再次询问。</translation>
+    </message>
+    <message>
+        <source>No connection: these are the last values that were told. “Links” in the developer dock (F12) brings it up.</source>
+        <translation>无连接：此处为最后报告的数值。可在开发者窗口（F12）的“连接”页中建立连接。</translation>
+    </message>
+    <message>
+        <source>The robot has not yet told its values</source>
+        <translation>机器人尚未报告其数值</translation>
+    </message>
+    <message>
+        <source>It is asked again.</source>
+        <translation>将再次询问。</translation>
+    </message>
+    <message>
+        <source>Release %1</source>
+        <translation>释放 %1 个</translation>
+    </message>
 </context>
 <context>
     <name>pendant::IoRegisterDetails</name>
@@ -322,6 +342,22 @@
     <message>
         <source>Set</source>
         <translation>设定</translation>
+    </message>
+    <message>
+        <source>One value, an empty one</source>
+        <translation>一个值，为空值</translation>
+    </message>
+    <message>
+        <source>No value</source>
+        <translation>无值</translation>
+    </message>
+    <message>
+        <source>A value has a line break in it: these values cannot be changed here.</source>
+        <translation>有一个值包含换行符：这些值无法在此更改。</translation>
+    </message>
+    <message>
+        <source>“Set” overwrites what came meanwhile: %1</source>
+        <translation>“设置”将覆盖其间到来的值：%1</translation>
     </message>
 </context>
 <context>
@@ -373,6 +409,10 @@
     <message>
         <source>Release</source>
         <translation>释放</translation>
+    </message>
+    <message>
+        <source>Undo: the value of the signal</source>
+        <translation>撤销：恢复信号的值</translation>
     </message>
 </context>
 <context>
@@ -745,6 +785,14 @@
         <source>Live; %1 is written to as well</source>
         <translation>实时；同时也在写入 %1</translation>
     </message>
+    <message>
+        <source>There is no folder %1 yet. The first line that is logged makes it.</source>
+        <translation>文件夹 %1 尚不存在。记录第一行日志时会创建它。</translation>
+    </message>
+    <message>
+        <source>Nothing here opens folders. The log files are in %1</source>
+        <translation>此处没有可打开文件夹的程序。日志文件位于 %1</translation>
+    </message>
 </context>
 <context>
     <name>pendant::LogTimeBar</name>
@@ -961,10 +1009,6 @@
 <context>
     <name>pendant::OutputWidget</name>
     <message>
-        <source>Type the name of the output.</source>
-        <translation>请输入输出的名称。</translation>
-    </message>
-    <message>
         <source>Digital output</source>
         <translation>数字输出</translation>
     </message>
@@ -983,6 +1027,10 @@
     <message>
         <source>Off</source>
         <translation>关</translation>
+    </message>
+    <message>
+        <source>Choose the output, or type its name.</source>
+        <translation>请选择输出，或输入其名称。</translation>
     </message>
 </context>
 <context>
@@ -1243,6 +1291,10 @@
         <source>Its widget deleted itself in %1.</source>
         <translation>其控件在 %1 中删除了自己。</translation>
     </message>
+    <message>
+        <source>Its widget deleted itself.</source>
+        <translation>它的界面删除了自己。</translation>
+    </message>
 </context>
 <context>
     <name>pendant::ProgramDelegate</name>
@@ -1301,6 +1353,14 @@
         <source>It is kept as it is, and can be moved and deleted. It may belong to a plugin that is not loaded.</source>
         <translation>该行保持原样，可以移动和删除。它可能属于未加载的插件。</translation>
     </message>
+    <message>
+        <source>The instruction gives no reason.</source>
+        <translation>该指令没有说明原因。</translation>
+    </message>
+    <message>
+        <source>Not applied yet</source>
+        <translation>尚未应用</translation>
+    </message>
 </context>
 <context>
     <name>pendant::ProgramFile</name>
@@ -1331,6 +1391,18 @@
     <message>
         <source>its folder cannot be made.</source>
         <translation>无法创建其文件夹。</translation>
+    </message>
+    <message>
+        <source>The program %1 cannot be read: %2</source>
+        <translation>无法读取程序 %1：%2</translation>
+    </message>
+    <message>
+        <source>the folder of its project is not there.</source>
+        <translation>其项目的文件夹不存在。</translation>
+    </message>
+    <message>
+        <source>What stands in %1 now cannot be read, and nothing was written over it: %2</source>
+        <translation>%1 中现有的内容无法读取，因此未被覆盖：%2</translation>
     </message>
 </context>
 <context>
@@ -1392,8 +1464,24 @@
         <translation>上次未保存的更改已重新载入程序。请保存，或用“撤销”取消。</translation>
     </message>
     <message>
-        <source>The robot program of the open project is edited here. The project comes from the controller when the links are up. %1</source>
-        <translation>在此编辑当前项目的机器人程序。连接建立后，项目由控制器提供。%1</translation>
+        <source>Try again</source>
+        <translation>重试</translation>
+    </message>
+    <message>
+        <source>Not inserted: the line of “%1” that was begun.</source>
+        <translation>未插入：已开始填写的“%1”行。</translation>
+    </message>
+    <message>
+        <source>Not applied: what was entered in line %1 is not in the program.</source>
+        <translation>未应用：在第 %1 行输入的内容不在程序中。</translation>
+    </message>
+    <message>
+        <source>The program cannot be read</source>
+        <translation>无法读取程序</translation>
+    </message>
+    <message>
+        <source>The robot program of the open project is edited here. %1 Open a project, or make one, on the page “Projects”.</source>
+        <translation>在此编辑已打开项目的机器人程序。%1请在“项目”页面打开或新建一个项目。</translation>
     </message>
 </context>
 <context>
@@ -1413,6 +1501,14 @@
     <message>
         <source>Cancel</source>
         <translation>取消</translation>
+    </message>
+    <message>
+        <source>Above</source>
+        <translation>上方</translation>
+    </message>
+    <message>
+        <source>Insert above the line at the cursor</source>
+        <translation>在光标所在行的上方插入</translation>
     </message>
 </context>
 <context>
@@ -1443,6 +1539,26 @@
     <message>
         <source>The program was not written: its project was deleted.</source>
         <translation>程序未写入：其项目已被删除。</translation>
+    </message>
+    <message>
+        <source>There are unsaved changes of an older program %1. They were not taken up: it was saved since.</source>
+        <translation>存在旧版程序 %1 的未保存更改。该程序此后已保存，因此未采用这些更改。</translation>
+    </message>
+    <message>
+        <source>It cannot be renamed, so changes are kept by “Save” only.</source>
+        <translation>它无法重命名，因此只有“保存”才会保留更改。</translation>
+    </message>
+    <message>
+        <source>Changes that are not saved are not kept: %1 is in the way and cannot be renamed.</source>
+        <translation>未保存的更改不会保留：%1 占用了位置且无法重命名。</translation>
+    </message>
+    <message>
+        <source>The program was not written: somebody else has changed %1 since it was opened. Save once more to write yours; the other one is then kept beside it as %2.</source>
+        <translation>程序未写入：%1 打开后已被他人更改。再次保存即可写入您的程序；对方的程序将以 %2 保留在旁边。</translation>
+    </message>
+    <message>
+        <source>The program was not written: what somebody else has written cannot be copied to %1.</source>
+        <translation>程序未写入：他人写入的内容无法复制到 %1。</translation>
     </message>
 </context>
 <context>
@@ -1540,6 +1656,10 @@
     <message>
         <source>Its line: %1</source>
         <translation>其生成的行：%1</translation>
+    </message>
+    <message>
+        <source>“%1” made an empty line, which was not taken.</source>
+        <translation>“%1”生成了空行，未被采用。</translation>
     </message>
 </context>
 <context>
@@ -1654,7 +1774,7 @@
     </message>
     <message>
         <source>The projects of this robot are listed here as soon as both links are up. “Links” in the developer dock (F12) brings them up.</source>
-        <translation>两个连接都建立后，这里列出该机器人的项目。可在开发者面板 (F12) 的“连接”中建立连接。</translation>
+        <translation>两个连接都建立后，这里列出该机器人的项目。可在开发者窗口（F12）的“连接”页中建立连接。</translation>
     </message>
 </context>
 <context>
@@ -1956,6 +2076,11 @@
     <message>
         <source>Error</source>
         <translation>错误</translation>
+    </message>
+    <message>
+        <source>Forced</source>
+        <comment>signals</comment>
+        <translation>强制</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,7 @@
 
 #include "brisk/relay.h"
 #include "frame/statusitem.h"
+#include "state/statelink.h"
 
 #include <QLabel>
 
@@ -20,6 +21,8 @@ private slots:
     void theBusComesUpLive();
     void aValueIsShownAsTheTreeHasIt_data();
     void aValueIsShownAsTheTreeHasIt();
+    void withoutTheBusItIsUnknownHowTheRobotIs();
+    void untilTheStateIsToldItIsUnknownHowTheRobotIs();
     void anErrorOfTheRobotHasAColourAndAWord();
     void everyItemIsWholeAtTheSizesOfPendants_data();
     void everyItemIsWholeAtTheSizesOfPendants();
@@ -32,6 +35,9 @@ private slots:
 private:
     static StatusItem* item(const Frame& frame, const QString& name) {
         return frame.find<StatusItem>("status:" + name);
+    }
+    static QString robot(const Frame& frame) {
+        return item(frame, "power")->text() + ' ' + item(frame, "mode")->text() + ' ' + item(frame, "state")->text();
     }
 };
 
@@ -131,6 +137,7 @@ void TestStatus::aValueIsShownAsTheTreeHasIt() {
     QFETCH(QString, name);
     QFETCH(QString, key);
     QFETCH(QString, value);
+    relay()->mobj()->c("connected")->setValue(nullptr, true);
     Frame frame;
     QTEST(item(frame, name)->text(), "before");
     m()->root()->set(nullptr, key, value);
@@ -139,7 +146,37 @@ void TestStatus::aValueIsShownAsTheTreeHasIt() {
     QTEST(item(frame, name)->text(), "before");
 }
 
+void TestStatus::withoutTheBusItIsUnknownHowTheRobotIs() {
+    relay()->mobj()->c("connected")->setValue(nullptr, true);
+    Frame frame;
+    m()->root()->set(nullptr, "helm.r.power", "on");
+    m()->root()->set(nullptr, "helm.r.mode", "auto");
+    m()->root()->set(nullptr, "helm.r.state", "error");
+    QCOMPARE(robot(frame), QString("On Automatic Error"));
+    relay()->mobj()->c("connected")->setValue(nullptr, false);
+    QCOMPARE(robot(frame), QString("Unknown Unknown Unknown"));
+    for (const char* name : {"power", "mode", "state"})
+        QCOMPARE(item(frame, name)->state(), StatusItem::State::Neutral);
+    m()->root()->set(nullptr, "helm.r.mode", "manual");
+    QCOMPARE(item(frame, "mode")->text(), QString("Unknown"));
+    relay()->mobj()->c("connected")->setValue(nullptr, true);
+    QCOMPARE(robot(frame), QString("On Manual Error"));
+    QCOMPARE(item(frame, "power")->state(), StatusItem::State::Good);
+    QCOMPARE(item(frame, "state")->state(), StatusItem::State::Error);
+}
+
+void TestStatus::untilTheStateIsToldItIsUnknownHowTheRobotIs() {
+    relay()->mobj()->c("connected")->setValue(nullptr, true);
+    Frame frame;
+    m()->root()->set(nullptr, "helm.r.power", "on");
+    pendant::statelink::setAwaited(true);
+    QCOMPARE(item(frame, "power")->text(), QString("Unknown"));
+    pendant::statelink::setAwaited(false);
+    QCOMPARE(item(frame, "power")->text(), QString("On"));
+}
+
 void TestStatus::anErrorOfTheRobotHasAColourAndAWord() {
+    relay()->mobj()->c("connected")->setValue(nullptr, true);
     Frame frame;
     m()->root()->set(nullptr, "helm.r.state", "error");
     QCOMPARE(item(frame, "state")->text(), QString("Error"));

@@ -1,5 +1,7 @@
 #include "iofixture.h"
 
+#include "frame/statusitem.h"
+
 #include <QSignalSpy>
 
 // The page that shows, switches and forces the signals.
@@ -19,7 +21,11 @@ private slots:
     void aNumberThatIsBeingTypedIsNotOverwritten();
     void aForcedInputIsMarkedWithWordAndIcon();
     void forcedInputsAreToldWhereverTheyAre();
-    void allAreReleasedAtOnce();
+    void allAreReleasedAtOnceWhenThatIsMeant();
+    void allStayForcedWhenThatIsNotMeant();
+    void theFrameTellsOfForcedInputsOnEveryPage();
+    void whatIsRefusedStaysInTheFieldUntilItIsUndone();
+    void aStateThatIsAwaitedIsTold();
     void oneIsFoundByItsName();
     void theSelectionSurvivesTheFilter();
     void aHeadingIsNotSelected();
@@ -188,7 +194,7 @@ void TestIoPage::forcedInputsAreToldWhereverTheyAre() {
     QVERIFY(bench.find<QLabel>("ioForced")->isVisible());
 }
 
-void TestIoPage::allAreReleasedAtOnce() {
+void TestIoPage::allAreReleasedAtOnceWhenThatIsMeant() {
     IoBench bench;
     for (const char* name : {"door_closed", "start_button"})
         QCOMPARE(bench.signalTable()->force(name, true), QString());
@@ -196,9 +202,78 @@ void TestIoPage::allAreReleasedAtOnce() {
     Frame::settle();
     QCOMPARE(bench.find<QLabel>("ioForced")->text(), QString("2 forced"));
     bench.click("ioReleaseAll");
-    QVERIFY(!bench.find<QLabel>("ioForced")->isVisible());
-    QVERIFY(!bench.find("ioReleaseAll")->isVisible());
+    QCOMPARE(bench.find("ioReleaseNow")->text(), QString("Release 2"));
+    QVERIFY(bench.signalTable()->value("start_button").toBool());
+    bench.click("ioReleaseNow");
+    for (const char* name : {"ioForced", "ioReleaseAll", "ioReleaseNow", "ioKeepForced"})
+        QVERIFY2(!bench.find<QWidget>(name)->isVisible(), name);
     QCOMPARE(bench.signalTable()->value("start_button"), QVariant(false));
+}
+
+void TestIoPage::allStayForcedWhenThatIsNotMeant() {
+    IoBench bench;
+    bench.select("start_button");
+    bench.click("ioOn");
+    bench.click("ioReleaseAll");
+    bench.click("ioKeepForced");
+    QVERIFY(bench.isForced("start_button"));
+    QVERIFY(bench.find("ioReleaseAll")->isVisible() && !bench.find("ioReleaseNow")->isVisible());
+    // Whoever comes back is asked again.
+    bench.click("ioReleaseAll");
+    bench.frame.window->showPage(pendant::pagekeys::start());
+    bench.frame.window->showPage(pendant::pagekeys::io());
+    QVERIFY(bench.find("ioReleaseAll")->isVisible() && !bench.find("ioReleaseNow")->isVisible());
+}
+
+void TestIoPage::theFrameTellsOfForcedInputsOnEveryPage() {
+    IoBench bench;
+    auto* item = bench.frame.find<pendant::StatusItem>("status:forced");
+    QVERIFY(!item->isVisible());
+    bench.frame.window->showPage(pendant::pagekeys::start());
+    for (const char* name : {"door_closed", "start_button"})
+        QCOMPARE(bench.signalTable()->force(name, true), QString());
+    bench.robot.settle();
+    Frame::settle();
+    QVERIFY(item->isVisible());
+    QCOMPARE(item->accessibleName(), QString("Forced: 2"));
+    QCOMPARE(item->state(), pendant::StatusItem::State::Warning);
+    for (const char* name : {"door_closed", "start_button"})
+        QCOMPARE(bench.signalTable()->release(name), QString());
+    bench.robot.settle();
+    Frame::settle();
+    QVERIFY(!item->isVisible());
+}
+
+void TestIoPage::whatIsRefusedStaysInTheFieldUntilItIsUndone() {
+    IoBench bench;
+    bench.click("ioOutputs");
+    bench.select("job_number");
+    auto* number = bench.find<QDoubleSpinBox>("ioNumber");
+    QVERIFY(!bench.find("ioUndo")->isEnabled());
+    // The page still shows it.
+    bench.signalTable()->blockSignals(true);
+    bench.signalTable()->start({});
+    bench.signalTable()->blockSignals(false);
+    number->setValue(12);
+    bench.click("ioSet");
+    QCOMPARE(Frame::messages().last().text, QString("The controller has no signal \"job_number\"."));
+    m("orca.robot.io.signal_value.lamp")->setValue(nullptr, true);
+    Frame::settle();
+    QCOMPARE(number->value(), 12.0);
+    bench.click("ioUndo");
+    QCOMPARE(number->value(), 3.0);
+    QVERIFY(!bench.find("ioUndo")->isEnabled());
+}
+
+void TestIoPage::aStateThatIsAwaitedIsTold() {
+    IoBench bench;
+    bench.setBus(false);
+    bench.robot.embedded()->bus()->setFault(controller::Fault::Null);
+    bench.setBus(true);
+    QVERIFY(bench.find<QLabel>("ioOffline")->isVisible());
+    QVERIFY(bench.find<QLabel>("ioOffline")->text().contains("not yet told"));
+    bench.robot.embedded()->bus()->setFault(controller::Fault::None);
+    QTRY_VERIFY(!bench.find<QLabel>("ioOffline")->isVisible());
 }
 
 void TestIoPage::oneIsFoundByItsName() {
@@ -249,6 +324,7 @@ void TestIoPage::withoutTheBusNothingCanBeSwitched() {
     bench.click("ioOff");
     bench.setBus(false);
     QVERIFY(bench.find<QLabel>("ioOffline")->isVisible());
+    QVERIFY(bench.find<QLabel>("ioOffline")->text().contains("F12"));
     QCOMPARE(bench.value("door_closed"), QString("Off"));
     for (const char* name : {"ioOn", "ioOff", "ioRelease", "ioReleaseAll"})
         QVERIFY2(bench.find(name)->isVisible() && !bench.find(name)->isEnabled(), name);

@@ -1,5 +1,8 @@
 #include "iofixture.h"
 
+#include "state/registers.h"
+#include "state/statekeys.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QPlainTextEdit>
@@ -15,6 +18,11 @@ private slots:
     void allValuesCanBeTakenOut();
     void whatIsTypedIsUndone();
     void whatIsBeingTypedIsNotOverwritten();
+    void whatChangedMeanwhileIsTold();
+    void valuesWithALineBreakAreLocked_data();
+    void valuesWithALineBreakAreLocked();
+    void oneEmptyValueIsNotNone();
+    void spacesThatDoNotBreakAreKept();
     void anotherRegisterForgetsWhatWasTyped();
     void oneIsFoundByItsName();
     void withoutRegistersItSaysWhereTheyComeFrom();
@@ -31,12 +39,15 @@ struct Bench : IoBench {
     void pick(const QString& name) {
         for (int row = 0; row < table()->model()->rowCount(); ++row) {
             const QModelIndex index = table()->model()->index(row, 0);
-            if (index.data().toString() == name)
-                QTest::mouseClick(table()->viewport(), Qt::LeftButton, {}, table()->visualRect(index).center());
+            if (index.data().toString() != name)
+                continue;
+            table()->scrollTo(index);
+            QTest::mouseClick(table()->viewport(), Qt::LeftButton, {}, table()->visualRect(index).center());
         }
         Frame::settle();
     }
     QPlainTextEdit* edit() const { return find<QPlainTextEdit>("registerValues"); }
+    QString note() const { return find<QLabel>("registerNote")->text(); }
     void type(const QString& text) {
         edit()->selectAll();
         QTest::keyClicks(edit(), text);
@@ -59,6 +70,15 @@ struct Bench : IoBench {
                 .toJson(QJsonDocument::Compact));
     }
 };
+
+// As the data tree has them.
+QStringList valuesInTree(const QString& name) {
+    for (brisk::ModuleObject* record : m(pendant::statekeys::registers())->cmobjs()) {
+        if (pendant::registers::nameOf(record) == name)
+            return pendant::registers::valuesOf(record);
+    }
+    return QStringList("no register");
+}
 
 } // namespace
 
@@ -120,6 +140,72 @@ void TestIoRegisters::whatIsBeingTypedIsNotOverwritten() {
     QCOMPARE(bench.edit()->toPlainText(), QString("mine"));
     bench.click("registerUndo");
     QCOMPARE(bench.edit()->toPlainText(), QString("theirs"));
+}
+
+void TestIoRegisters::whatChangedMeanwhileIsTold() {
+    Bench bench;
+    bench.pick("order");
+    bench.type("mine");
+    QCOMPARE(bench.note(), QString());
+    bench.set("order", {"theirs", "too"});
+    QCOMPARE(bench.note(), QString("“Set” overwrites what came meanwhile: theirs, too"));
+    bench.set("order", {"A-17", "bracket"});
+    QCOMPARE(bench.note(), QString());
+    bench.set("order", {"theirs"});
+    bench.click("registerSet");
+    QCOMPARE(bench.note(), QString());
+    QVERIFY(bench.inController().contains(R"({"name":"order","value":["mine"]})"));
+}
+
+void TestIoRegisters::valuesWithALineBreakAreLocked_data() {
+    QTest::addColumn<QString>("value");
+    QTest::newRow("line feed") << QString("a\nb");
+    QTest::newRow("carriage return") << QString("a\rb");
+    QTest::newRow("both") << QString("a\r\nb");
+    QTest::newRow("paragraph") << QString("a") + QChar(0x2029) + "b";
+    QTest::newRow("line") << QString("a") + QChar(0x2028) + "b";
+    QTest::newRow("nothing else") << QString("\n");
+}
+
+void TestIoRegisters::valuesWithALineBreakAreLocked() {
+    QFETCH(QString, value);
+    Bench bench;
+    bench.set("order", {"x", value});
+    bench.pick("order");
+    QVERIFY(bench.edit()->isReadOnly());
+    QVERIFY(bench.note().contains("line break"));
+    bench.type("mine");
+    QVERIFY(!bench.find("registerSet")->isEnabled());
+    bench.set("order", {"x"});
+    QVERIFY(!bench.edit()->isReadOnly());
+    QCOMPARE(bench.note(), QString());
+}
+
+void TestIoRegisters::oneEmptyValueIsNotNone() {
+    Bench bench;
+    bench.pick("operator");
+    QCOMPARE(bench.edit()->placeholderText(), QString("One value, an empty one"));
+    QVERIFY(!bench.edit()->isReadOnly());
+    bench.pick("alarms");
+    QCOMPARE(bench.edit()->placeholderText(), QString("No value"));
+    bench.pick("operator");
+    bench.type("x");
+    QTest::keyClick(bench.edit(), Qt::Key_Backspace);
+    QCOMPARE(bench.edit()->placeholderText(), QString("No value"));
+    bench.click("registerSet");
+    QVERIFY(bench.inController().contains(R"({"name":"operator","value":[]})"));
+}
+
+void TestIoRegisters::spacesThatDoNotBreakAreKept() {
+    Bench bench;
+    const QString wide = QString("1") + QChar(QChar::Nbsp) + "000";
+    bench.set("order", {wide});
+    bench.pick("order");
+    QVERIFY(!bench.edit()->isReadOnly());
+    bench.edit()->moveCursor(QTextCursor::End);
+    QTest::keyClicks(bench.edit(), "!");
+    bench.click("registerSet");
+    QCOMPARE(valuesInTree("order"), QStringList(wide + '!'));
 }
 
 void TestIoRegisters::anotherRegisterForgetsWhatWasTyped() {

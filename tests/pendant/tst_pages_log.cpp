@@ -4,6 +4,7 @@
 #include <QDesktopServices>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QScrollBar>
 #include <QUrl>
 #include <QWheelEvent>
@@ -48,6 +49,8 @@ private slots:
     void aTimeIsGoneTo();
     void aTimeAfterAllLinesIsTold();
     void theFolderIsOpened();
+    void aFolderThatNothingOpensIsTold();
+    void aFolderThatIsNotThereYetIsTold();
     void whatIsHiddenReadsNothing();
     void ofALargeLogLittleIsRead();
     void everythingSpeaksTheLanguage();
@@ -304,6 +307,33 @@ void TestLogPage::theFolderIsOpened() {
     const LogBench bench;
     Frame::click(bench.frame.find("logFolder"));
     QCOMPARE(catcher.url, QUrl::fromLocalFile(QDir::current().filePath("log")));
+}
+
+void TestLogPage::aFolderThatNothingOpensIsTold() {
+    const LogBench bench;
+    QVERIFY(!bench.frame.find("logNotice")->isVisible());
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("openDocument"));
+    Frame::click(bench.frame.find("logFolder"));
+    QVERIFY(bench.frame.find("logNotice")->isVisible());
+    QCOMPARE(bench.frame.find<QLabel>("logNotice")->text(),
+             "Nothing here opens folders. The log files are in " + QDir::current().filePath("log"));
+    bench.frame.window->showPage(pendant::pagekeys::start());
+    bench.frame.window->showPage(pendant::pagekeys::log());
+    QVERIFY(!bench.frame.find("logNotice")->isVisible());
+}
+
+void TestLogPage::aFolderThatIsNotThereYetIsTold() {
+    const UrlCatcher catcher;
+    const LogBench bench(LogFiles{});
+    Frame::click(bench.frame.find("logFolder"));
+    QCOMPARE(bench.frame.find<QLabel>("logNotice")->text(),
+             QString("There is no folder %1 yet. The first line that is logged makes it.")
+                 .arg(QDir::current().filePath("log")));
+    QVERIFY(catcher.url.isEmpty());
+    LogBench::write(today, manyLines(1));
+    Frame::click(bench.frame.find("logFolder"));
+    QVERIFY(!bench.frame.find("logNotice")->isVisible());
+    QVERIFY(!catcher.url.isEmpty());
 }
 
 void TestLogPage::whatIsHiddenReadsNothing() {

@@ -1,5 +1,7 @@
 #include "logbench.h"
 
+#include "pages/logfilterbar.h"
+
 #include <QPushButton>
 #include <QSignalSpy>
 
@@ -14,6 +16,13 @@ private slots:
     void whatIsWrittenIsFilteredToo();
     void nothingThatMatchesIsTold();
     void aLongSearchShowsHowFarItIsAndIsStopped();
+    void aSearchStandsStillWhileThePageIsHidden();
+    void aTimeIsGoneToAmongWhatIsFound();
+    void aTimeAfterAllThatIsFoundIsTold();
+    void aTimeIsGoneToWhileTheSearchRuns();
+    void whoHasGoneOnIsNotTakenBack();
+    void theModulesOfAnotherLogTakeThePlaceOfAsManyBefore();
+    void newModulesLeaveWhatIsTypedAndTheCursorAlone();
     void logsAndDaysAreChosen();
     void withoutAChoiceTheLogWithTheNewestDayIsShown();
     void oneFileOfADayIsChosen();
@@ -114,6 +123,94 @@ void TestLogFilter::aLongSearchShowsHowFarItIsAndIsStopped() {
     QCOMPARE(bench.lowest(), QString("line 59999"));
 }
 
+void TestLogFilter::aSearchStandsStillWhileThePageIsHidden() {
+    const LogBench bench({{today, manyLines(60000).repeated(10)}});
+    QSignalSpy progressed(&bench.page()->search(), &pendant::LogSearch::progressed);
+    bench.type("logText", "line");
+    QVERIFY(progressed.wait());
+    bench.frame.window->showPage(pendant::pagekeys::start());
+    progressed.clear();
+    QTest::qWait(50);
+    QVERIFY(progressed.isEmpty());
+    QVERIFY(bench.page()->search().isRunning());
+    bench.frame.window->showPage(pendant::pagekeys::log());
+    QVERIFY(progressed.wait());
+    Frame::click(bench.frame.find("logStop"));
+}
+
+void TestLogFilter::aTimeIsGoneToAmongWhatIsFound() {
+    const LogBench bench;
+    bench.choose("logLevel", "Errors");
+    bench.finishSearch();
+    // Line 123 and the next that is found, 130.
+    bench.page()->showTime(QDateTime(QDate(2025, 3, 14), QTime(9, 2, 3)));
+    QCOMPARE(bench.highest(), QString("line 130"));
+    QVERIFY(bench.view()->current() == bench.view()->top());
+}
+
+void TestLogFilter::aTimeAfterAllThatIsFoundIsTold() {
+    const LogBench bench;
+    bench.choose("logLevel", "Errors");
+    bench.finishSearch();
+    // Lines 491 to 499 are none.
+    bench.page()->showTime(QDateTime(QDate(2025, 3, 14), QTime(9, 8, 15)));
+    QCOMPARE(bench.lowest(), QString("line 490"));
+    QCOMPARE(bench.state(), QString("Nothing is that late; these are the newest lines."));
+    bench.choose("logLevel", "Information");
+    bench.finishSearch();
+    QTRY_COMPARE(bench.state(), QString("300 found"));
+}
+
+void TestLogFilter::aTimeIsGoneToWhileTheSearchRuns() {
+    const QByteArray stuffing = "\n  " + QByteArray(400, 'x') + '\n';
+    const LogBench bench({{today, manyLines(50000).replace("\n", stuffing)}});
+    QSignalSpy progressed(&bench.page()->search(), &pendant::LogSearch::progressed);
+    bench.type("logText", "line 7");
+    QVERIFY(progressed.wait());
+    QVERIFY(bench.page()->search().isRunning());
+    bench.page()->showTime(QDateTime(QDate(2025, 3, 14), QTime(9, 0, 1)));
+    const pendant::LogPlace first = bench.view()->top();
+    QTRY_VERIFY_WITH_TIMEOUT(!bench.page()->search().isRunning(), 30000);
+    QVERIFY(bench.view()->top() < first);
+    QCOMPARE(bench.highest(), QString("line 7"));
+}
+
+void TestLogFilter::whoHasGoneOnIsNotTakenBack() {
+    const LogBench bench({{today, manyLines(60000).repeated(10)}});
+    QSignalSpy progressed(&bench.page()->search(), &pendant::LogSearch::progressed);
+    bench.type("logText", "line 7");
+    QVERIFY(progressed.wait());
+    bench.page()->showTime(QDateTime(QDate(2025, 3, 14), QTime(9, 0, 1)));
+    bench.press(Qt::Key_End);
+    QVERIFY(progressed.wait());
+    QVERIFY(progressed.wait());
+    QVERIFY(bench.view()->isFollowing());
+    Frame::click(bench.frame.find("logStop"));
+}
+
+void TestLogFilter::theModulesOfAnotherLogTakeThePlaceOfAsManyBefore() {
+    pendant::LogFilterBar bar;
+    bar.setModules({"weld", "feeder"});
+    bar.setModules({"vision", "belt"});
+    const auto* list = bar.findChild<QComboBox*>("logModule");
+    QCOMPARE(list->count(), 2);
+    QCOMPARE(list->itemText(0), QString("vision"));
+}
+
+void TestLogFilter::newModulesLeaveWhatIsTypedAndTheCursorAlone() {
+    pendant::LogFilterBar bar;
+    bar.setModules({"weld"});
+    auto* edit = bar.findChild<QComboBox*>("logModule")->lineEdit();
+    edit->setText("feed");
+    edit->setCursorPosition(1);
+    bar.setModules({"weld", "vision"});
+    QCOMPARE(edit->text(), QString("feed"));
+    QCOMPARE(edit->cursorPosition(), 1);
+    edit->setSelection(1, 2);
+    bar.setModules({"vision"});
+    QCOMPARE(edit->selectedText(), QString("ee"));
+}
+
 void TestLogFilter::logsAndDaysAreChosen() {
     const LogBench bench({{"kite_20250313.log", manyLines(5)},
                           {today, manyLines(5, 5)},
@@ -140,8 +237,13 @@ void TestLogFilter::withoutAChoiceTheLogWithTheNewestDayIsShown() {
                           {"kite_20250314.log", manyLines(3)},
                           {"z_20250314.log", manyLines(4)}});
     QCOMPARE(bench.shown().size(), 3);
-    LogBench::write("a_20250315.log", manyLines(1));
-    QTRY_COMPARE(bench.shown().size(), 2);
+    // And it stays: somebody may be reading.
+    LogBench::write("c_20250315.log", manyLines(1));
+    QTRY_COMPARE(bench.frame.find<QComboBox>("logName")->count(), 5);
+    LogBench::append("kite_20250314.log", manyLines(2, 3));
+    QTRY_COMPARE(bench.shown().size(), 5);
+    QVERIFY(QFile::remove("log/kite_20250314.log"));
+    QTRY_COMPARE(bench.frame.find<QComboBox>("logName")->currentText(), QString("c"));
 }
 
 void TestLogFilter::oneFileOfADayIsChosen() {

@@ -10,6 +10,7 @@
 #include "brisk/relay.h"
 #include "helm/managerhelper.h"
 #include "kite/interfacemanager.h"
+#include "state/statelink.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -81,6 +82,10 @@ private slots:
     void aValueOfAnotherShapeLeavesTheTreeAlone();
     void aPendantThatGoesWatchesNoMore();
     void aMirrorThatIsMadeLateReadsAtOnce();
+    void anAnswerThatDoesNotComeIsAskedForAgain_data();
+    void anAnswerThatDoesNotComeIsAskedForAgain();
+    void anAnswerThatComesLateIsAskedForAgain();
+    void withTheBusDownNothingIsAskedForAgain();
 };
 
 void TestStateMirror::theSignalsAreInTheTree() {
@@ -361,6 +366,57 @@ void TestStateMirror::aMirrorThatIsMadeLateReadsAtOnce() {
     robot.settle();
     QCOMPARE(kiteInterface()->getRobotModelType(), 3);
     Bench::clearTree();
+}
+
+void TestStateMirror::anAnswerThatDoesNotComeIsAskedForAgain_data() {
+    QTest::addColumn<int>("fault");
+    QTest::newRow("lost") << int(controller::Fault::Lost);
+    QTest::newRow("null") << int(controller::Fault::Null);
+    QTest::newRow("malformed") << int(controller::Fault::Malformed);
+}
+
+void TestStateMirror::anAnswerThatDoesNotComeIsAskedForAgain() {
+    QFETCH(int, fault);
+    Bench bench;
+    QVERIFY(pendant::statelink::isCurrent());
+    bench.robot.bus(false);
+    QVERIFY(!pendant::statelink::isCurrent());
+    bench.signalTable()->write("lamp", true);
+    bench.robot.embedded()->bus()->setFault(controller::Fault(fault));
+    bench.robot.bus(true);
+    QVERIFY(!pendant::statelink::isCurrent());
+    QVERIFY(pendant::statelink::isAwaited());
+    // What was told before stays, and is known to be old.
+    QCOMPARE(kiteInterface()->getIOHash().value("lamp"), QVariant(false));
+    bench.robot.embedded()->bus()->setFault(controller::Fault::None);
+    QTRY_VERIFY(pendant::statelink::isCurrent());
+    QCOMPARE(kiteInterface()->getIOHash().value("lamp"), QVariant(true));
+}
+
+void TestStateMirror::anAnswerThatComesLateIsAskedForAgain() {
+    Bench bench;
+    bench.robot.bus(false);
+    bench.signalTable()->write("lamp", true);
+    bench.robot.embedded()->bus()->setDelayMs(2500);
+    bench.robot.bus(true);
+    QVERIFY(pendant::statelink::isAwaited());
+    bench.robot.embedded()->bus()->setDelayMs(0);
+    QTRY_VERIFY(pendant::statelink::isCurrent());
+    QCOMPARE(kiteInterface()->getIOHash().value("lamp"), QVariant(true));
+}
+
+void TestStateMirror::withTheBusDownNothingIsAskedForAgain() {
+    Bench bench;
+    bench.robot.bus(false);
+    bench.robot.embedded()->bus()->setFault(controller::Fault::Null);
+    bench.robot.bus(true);
+    bench.robot.bus(false);
+    QVERIFY(!pendant::statelink::isAwaited());
+    bench.robot.forgetTraffic();
+    // Longer than the pause before it asks again.
+    QTest::qWait(1300);
+    for (const brisk::standin::TrafficEntry& entry : bench.robot.traffic())
+        QVERIFY2(entry.key != "mirror.state", qPrintable(entry.key));
 }
 
 QTEST_MAIN(TestStateMirror)
