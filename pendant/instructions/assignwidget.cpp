@@ -20,11 +20,11 @@ void AssignWidget::show(const LineParts& parts) {
 }
 
 QString AssignWidget::text() const {
-    return AssignLine{m_variable->currentText(), m_value->text()}.text();
+    return AssignLine{nameIn(m_variable), m_value->text()}.text();
 }
 
 QString AssignWidget::missing() const {
-    if (m_variable->currentText().isEmpty())
+    if (nameIn(m_variable).isEmpty())
         return tr("Choose the variable, or type its name.");
     return m_value->text().trimmed().isEmpty() ? tr("Type the value that the variable gets.") : QString();
 }

@@ -44,6 +44,8 @@ protected:
     QLabel* addField(QWidget* field, Width width = Width::Whole);
     /// A field that takes any name and offers some.
     static QComboBox* nameField(const QString& name, const QStringList& offered);
+    /// What such a field holds, without blanks at its ends.
+    static QString nameIn(const QComboBox* field) { return field->currentText().trimmed(); }
 
 private:
     struct Cell {

@@ -51,13 +51,12 @@ void MoveWidget::show(const LineParts& parts) {
 }
 
 QString MoveWidget::text() const {
-    return MoveLine{m_kind,          m_point->currentText(), m_speed->value(),
-                    m_zone->value(), m_tool->currentText(),  m_workObject->currentText()}
+    return MoveLine{m_kind, nameIn(m_point), m_speed->value(), m_zone->value(), nameIn(m_tool), nameIn(m_workObject)}
         .text();
 }
 
 QString MoveWidget::missing() const {
-    return m_point->currentText().isEmpty() ? tr("Choose the point to move to, or type its name.") : QString();
+    return nameIn(m_point).isEmpty() ? tr("Choose the point to move to, or type its name.") : QString();
 }
 
 void MoveWidget::retranslate() {

@@ -1,8 +1,10 @@
 #include "outputwidget.h"
 
 #include "outputline.h"
+#include "projectnames.h"
 
 #include <QHBoxLayout>
+#include <QLineEdit>
 
 namespace pendant {
 
@@ -19,8 +21,8 @@ QPushButton* choice(const QString& name, QWidget* parent) {
 } // namespace
 
 OutputWidget::OutputWidget(QWidget* parent)
-    : InstructionWidget(OutputLine::grammar(), parent), m_signal(new QLineEdit) {
-    m_signal->setObjectName(QStringLiteral("outputSignal"));
+    : InstructionWidget(OutputLine::grammar(), parent),
+      m_signal(nameField(QStringLiteral("outputSignal"), projectnames::digitalOutputs())) {
     auto* states = new QWidget;
     m_on = choice(QStringLiteral("outputOn"), states);
     m_off = choice(QStringLiteral("outputOff"), states);
@@ -36,21 +38,21 @@ OutputWidget::OutputWidget(QWidget* parent)
 
 void OutputWidget::show(const LineParts& parts) {
     const OutputLine line = OutputLine::of(parts);
-    m_signal->setText(line.signal);
+    m_signal->setCurrentText(line.signal);
     (line.isOn ? m_on : m_off)->setChecked(true);
 }
 
 QString OutputWidget::text() const {
-    return OutputLine{m_signal->text(), m_on->isChecked()}.text();
+    return OutputLine{nameIn(m_signal), m_on->isChecked()}.text();
 }
 
 QString OutputWidget::missing() const {
-    return m_signal->text().isEmpty() ? tr("Type the name of the output.") : QString();
+    return nameIn(m_signal).isEmpty() ? tr("Choose the output, or type its name.") : QString();
 }
 
 void OutputWidget::retranslate() {
     m_signalCaption->setText(tr("Digital output"));
-    m_signal->setPlaceholderText(tr("Name of the signal"));
+    m_signal->lineEdit()->setPlaceholderText(tr("Name of the signal"));
     m_stateCaption->setText(tr("State"));
     m_on->setText(tr("On"));
     m_off->setText(tr("Off"));

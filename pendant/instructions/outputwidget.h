@@ -2,7 +2,6 @@
 
 #include "instructionwidget.h"
 
-#include <QLineEdit>
 #include <QPushButton>
 
 namespace pendant {
@@ -21,7 +20,7 @@ protected:
     void retranslate() override;
 
 private:
-    QLineEdit* m_signal;
+    QComboBox* m_signal;
     QPushButton* m_on;
     QPushButton* m_off;
     QLabel* m_signalCaption;

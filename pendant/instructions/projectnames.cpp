@@ -3,6 +3,7 @@
 #include "brisk/modulemanager.h"
 #include "brisk/moduleobject.h"
 #include "project/projectkeys.h"
+#include "state/signals.h"
 
 using brisk::ModuleObject;
 
@@ -29,9 +30,18 @@ QStringList tidied(QStringList names) {
     return names;
 }
 
-QStringList framesOf(const QString& selectedKey, const QString& leaf) {
-    const QString path = QStringLiteral("value.[0][0][0].coord.") + leaf;
-    return tidied(QStringList{m(selectedKey)->getString()} + textsIn(projectkeys::points(), path));
+// "tool" -> the lists of tools in the data tree, those of the project first.
+QStringList listsOf(const QString& frame) {
+    const QString inProject = QStringLiteral("orca.project.%1.").arg(frame);
+    return {inProject + QStringLiteral("_list"), inProject + QStringLiteral("system_list"),
+            QStringLiteral("orca.setting.g_%1.g_%1s").arg(frame)};
+}
+
+QStringList framesOf(const QString& selectedKey, const QString& frame) {
+    QStringList names{m(selectedKey)->getString()};
+    for (const QString& list : listsOf(frame))
+        names += textsIn(list, QStringLiteral("name"));
+    return tidied(names + textsIn(projectkeys::points(), QStringLiteral("value.[0][0][0].coord.") + frame));
 }
 
 } // namespace
@@ -50,6 +60,15 @@ QStringList projectnames::tools() {
 
 QStringList projectnames::workObjects() {
     return framesOf(projectkeys::workObject(), QStringLiteral("wobj"));
+}
+
+QStringList projectnames::digitalOutputs() {
+    QStringList names;
+    for (const Signal& signal : ioSignals::all()) {
+        if (signal.type == SignalType::DigitalOutput)
+            names << signal.name;
+    }
+    return names;
 }
 
 } // namespace pendant

@@ -4,15 +4,18 @@
 
 namespace pendant {
 
-/// Names in the open project, to be offered where one is asked for. In the order of the project, each once.
+/// Names in the open project and of the robot, to be offered where one is asked for. In the order of the project, each
+/// once.
 namespace projectnames {
 
 QStringList points();
 QStringList variables();
-/// The tool that is selected and those of the points.
+/// The tool that is selected, those of the project, of the system and of all projects, and those of the points.
 QStringList tools();
-/// The work object that is selected and those of the points.
+/// The same of the work objects.
 QStringList workObjects();
+/// The robot's digital outputs.
+QStringList digitalOutputs();
 
 } // namespace projectnames
 } // namespace pendant

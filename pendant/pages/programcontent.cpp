@@ -3,16 +3,47 @@
 #include "plugins/report.h"
 #include "plugins/thrown.h"
 
+#include <QApplication>
+#include <QEvent>
+#include <QMetaProperty>
+#include <QThread>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 using helm::BaseContentWidget;
 
 namespace pendant {
 
-ProgramContent::ProgramContent(const QString& type, QWidget* parent) : QWidget(parent), m_type(type) {
+namespace {
+
+const int lookAgainMs = 50;
+
+QList<QWidget*> childrenOf(const QWidget* widget) {
+    QList<QWidget*> children = widget->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    // Menus and dialogs are no part of what is on the page.
+    children.erase(std::remove_if(children.begin(), children.end(), [](QWidget* child) { return child->isWindow(); }),
+                   children.end());
+    return children;
+}
+
+bool isInput(QEvent::Type type) {
+    return type == QEvent::KeyPress || type == QEvent::KeyRelease || type == QEvent::MouseButtonRelease ||
+           type == QEvent::Wheel || type == QEvent::InputMethod || type == QEvent::Drop;
+}
+
+} // namespace
+
+ProgramContent::ProgramContent(const QString& type, QWidget* parent)
+    : QWidget(parent), m_type(type), m_loopLevel(QThread::currentThread()->loopLevel()) {
     setObjectName(QStringLiteral("instructionContent"));
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
+    m_compareTimer.setSingleShot(true);
+    m_compareTimer.setInterval(0);
+    connect(&m_compareTimer, &QTimer::timeout, this, &ProgramContent::compare);
+    // What a widget does with an event is its own affair, and it may make fields at any time.
+    qApp->installEventFilter(this);
 }
 
 bool ProgramContent::open(const helm::WidgetCreator& creator) {
@@ -31,18 +62,31 @@ bool ProgramContent::open(const helm::WidgetCreator& creator) {
 
 void ProgramContent::take(BaseContentWidget* widget) {
     m_widget = widget;
-    m_hadChildren = widget->findChild<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    rememberChildren();
     layout()->addWidget(widget); // and becomes its parent, whatever the creator has chosen
     widget->show();
 }
 
-// A wrapper whose content has deleted itself would call what is no more.
+void ProgramContent::rememberChildren() {
+    m_children.clear();
+    for (QWidget* child : childrenOf(m_widget))
+        m_children << child;
+    m_filled = values();
+}
+
+// A wrapper whose content has deleted itself would call what is no more. One that has made new fields for old ones has
+// not, and neither has one whose content went into another parent.
 bool ProgramContent::isThere() const {
-    return m_widget && (!m_hadChildren || m_widget->findChild<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
+    const auto lives = [](const QPointer<QWidget>& child) { return !child.isNull(); };
+    return m_widget && (m_children.isEmpty() || std::any_of(m_children.begin(), m_children.end(), lives) ||
+                        !childrenOf(m_widget).isEmpty());
 }
 
 bool ProgramContent::fillWith(const QString& line) {
-    return call("FillWith", [&] { m_widget->FillWith(line); });
+    const bool isFilled = call("FillWith", [&] { m_widget->FillWith(line); });
+    if (isFilled)
+        m_filled = values();
+    return isFilled;
 }
 
 ProgramContent::Answer ProgramContent::checkInsert() {
@@ -98,8 +142,56 @@ void ProgramContent::leave() {
     hide();
     if (parentWidget() && parentWidget()->layout())
         parentWidget()->layout()->removeWidget(this);
-    if (m_calls == 0)
+    if (m_calls > 0)
+        return;
+    if (isInNestedLoop())
+        QTimer::singleShot(lookAgainMs, this, &ProgramContent::leave);
+    else
         deleteLater();
+}
+
+// Its dialogs stand on its stack, and it must not go beneath them.
+bool ProgramContent::isInNestedLoop() const {
+    return QThread::currentThread()->loopLevel() > m_loopLevel || QApplication::activeModalWidget();
+}
+
+bool ProgramContent::event(QEvent* event) {
+    m_loopLevel = std::min(m_loopLevel, QThread::currentThread()->loopLevel());
+    return QWidget::event(event);
+}
+
+bool ProgramContent::eventFilter(QObject* watched, QEvent* event) {
+    if (isInput(event->type()) && !m_isLeft && watched->isWidgetType() && isAncestorOf(static_cast<QWidget*>(watched)))
+        m_compareTimer.start();
+    return QWidget::eventFilter(watched, event);
+}
+
+// By what a field says is its value: the text, the number, whether it is checked.
+ProgramContent::Values ProgramContent::values() const {
+    Values values;
+    for (QWidget* field : findChildren<QWidget*>()) {
+        const QMetaProperty value = field->metaObject()->userProperty();
+        if (value.isValid())
+            values.insert(field, value.read(field));
+    }
+    return values;
+}
+
+void ProgramContent::compare() {
+    const bool isEditedNow = !m_isLeft && values() != m_filled;
+    if (isEditedNow == m_isEdited)
+        return;
+    m_isEdited = isEditedNow;
+    emit edited(m_isEdited);
+}
+
+void ProgramContent::setApplied() {
+    m_filled = values();
+    compare();
+}
+
+void ProgramContent::reportGone() const {
+    report(tr("Its widget deleted itself."));
 }
 
 void ProgramContent::report(const QString& what) const {

@@ -61,8 +61,8 @@ ProgramEditor::ProgramEditor(const Theme& theme, QWidget* parent)
     : QWidget(parent), m_theme(theme), m_icon(new QLabel(this)), m_title(new ElidedLabel(this)),
       m_place(new ElidedLabel(this)), m_description(wrapped("caption", this)), m_short(new ElidedLabel(this)),
       m_line(wrapped("mono", this)), m_otherTypes(wrapped("caption", this)), m_scroll(new QScrollArea(this)),
-      m_nest(new QWidget), m_notice(wrapped("notice", this)), m_accept(new QPushButton(this)),
-      m_reject(new QPushButton(this)) {
+      m_nest(new QWidget), m_notice(wrapped("notice", this)), m_unapplied(wrapped("caption", this)),
+      m_accept(new QPushButton(this)), m_reject(new QPushButton(this)) {
     setObjectName(QStringLiteral("programEditor"));
     m_title->setProperty("strong", true);
     m_title->setObjectName(QStringLiteral("editorTitle"));
@@ -73,6 +73,8 @@ ProgramEditor::ProgramEditor(const Theme& theme, QWidget* parent)
     m_line->setObjectName(QStringLiteral("unknownLine"));
     m_otherTypes->setObjectName(QStringLiteral("otherTypes"));
     m_notice->setObjectName(QStringLiteral("editorNotice"));
+    m_unapplied->setObjectName(QStringLiteral("lineUnapplied"));
+    m_unapplied->hide();
     m_accept->setObjectName(QStringLiteral("acceptLine"));
     m_accept->setDefault(true);
     m_reject->setObjectName(QStringLiteral("rejectLine"));
@@ -111,6 +113,7 @@ void ProgramEditor::arrange() {
     column->addWidget(m_scroll, 1);
     column->addWidget(m_notice);
     column->addStretch();
+    column->addWidget(m_unapplied);
     column->addLayout(buttons);
 }
 
@@ -145,6 +148,7 @@ void ProgramEditor::openContent(bool fills) {
                                             ? tr("“%1” brings no widget to insert it with.").arg(m_subject.title)
                                             : tr("“%1” brings no widget to edit its lines.").arg(m_subject.title));
     m_content = new ProgramContent(m_subject.type, m_nest);
+    connect(m_content, &ProgramContent::edited, this, &ProgramEditor::showEdited);
     m_nest->layout()->addWidget(m_content);
     m_content->show();
     const QPointer<ProgramEditor> living(this);
@@ -160,6 +164,23 @@ void ProgramEditor::dropContent() {
     if (m_content)
         m_content->leave();
     m_content = nullptr;
+    showEdited();
+}
+
+void ProgramEditor::showEdited() {
+    m_unapplied->setVisible(isEdited() && m_subject.purpose == ProgramSubject::Line);
+}
+
+void ProgramEditor::setApplied() {
+    if (content())
+        m_content->setApplied();
+}
+
+void ProgramEditor::giveUpGone() {
+    if (!m_content || content())
+        return;
+    m_content->reportGone();
+    giveUp();
 }
 
 void ProgramEditor::giveUp() {
@@ -169,18 +190,22 @@ void ProgramEditor::giveUp() {
     showButtons();
 }
 
-void ProgramEditor::refuse(const QString& notice) {
+void ProgramEditor::refuse(const QString& notice, bool isByWidget) {
     setNotice(Tone::Error, notice);
+    m_isRefused = isByWidget;
     // When it stands where it will stand.
-    QTimer::singleShot(0, this, &ProgramEditor::scrollToReason);
+    QTimer::singleShot(0, this, &ProgramEditor::showReason);
 }
 
-void ProgramEditor::scrollToReason() {
+void ProgramEditor::showReason() {
     const QList<QLabel*> labels = m_nest->findChildren<QLabel*>();
     for (QLabel* label : labels) {
         if (label->isVisible() && !label->text().isEmpty() && label->property("state") == QLatin1String("error"))
             return m_scroll->ensureWidgetVisible(label, 0, 8);
     }
+    if (content() && m_isRefused)
+        setNotice(Tone::Error, m_notice->text() + QLatin1Char(' ') + tr("The instruction gives no reason."));
+    m_isRefused = false;
 }
 
 void ProgramEditor::close() {
@@ -216,6 +241,7 @@ void ProgramEditor::showWhatFits() {
 void ProgramEditor::showButtons() {
     const bool inserts = m_subject.purpose == ProgramSubject::Insertion;
     m_accept->setText(inserts ? tr("Insert") : tr("Apply"));
+    m_unapplied->setText(tr("Not applied yet"));
     m_reject->setText(inserts ? tr("Cancel") : tr("Revert"));
     m_scroll->setVisible(content());
     m_accept->setVisible(content());
@@ -233,6 +259,7 @@ void ProgramEditor::setOthers(const QStringList& titles) {
 }
 
 void ProgramEditor::setNotice(Tone tone, const QString& notice) {
+    m_isRefused = false;
     m_notice->setText(notice);
     m_notice->setVisible(!notice.isEmpty());
     m_notice->setProperty("state", stateOf(tone));

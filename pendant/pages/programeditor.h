@@ -56,10 +56,18 @@ public:
     enum class Tone { Plain, Warning, Error };
     /// Empty takes it away.
     void setNotice(Tone tone, const QString& notice);
-    /// Says that the widget refuses, and brings what it says to that ("state" is "error" there) onto the screen.
-    void refuse(const QString& notice);
+    /// Says that the line was not taken, and brings what the widget says to that ("state" is "error" there) onto the
+    /// screen.
+    /// \param isByWidget it is the widget that refuses; the notice says so when the widget gives no reason
+    void refuse(const QString& notice, bool isByWidget);
     /// Says that a call into the widget failed. One that is no more is taken away.
     void giveUp();
+    /// Reports a widget that went between two calls, and gives it up.
+    void giveUpGone();
+    /// What its fields hold now is in the program.
+    void setApplied();
+    /// Somebody has changed a field of what is open, and not applied it.
+    bool isEdited() const { return content() && m_content->isEdited(); }
 
 signals:
     void accepted();
@@ -71,7 +79,8 @@ protected:
 private:
     void arrange();
     void showWhatFits();
-    void scrollToReason();
+    void showReason();
+    void showEdited();
     void openContent(bool fills);
     void dropContent();
     void showSubject();
@@ -81,6 +90,7 @@ private:
     ProgramSubject m_subject;
     QPointer<ProgramContent> m_content;
     QStringList m_others;
+    bool m_isRefused = false; // by the widget, which may yet say why
     QLabel* m_icon;
     QLabel* m_title;
     QLabel* m_place;
@@ -91,6 +101,7 @@ private:
     QScrollArea* m_scroll;
     QWidget* m_nest; ///< what is scrolled: the widget's place
     QLabel* m_notice;
+    QLabel* m_unapplied;
     QPushButton* m_accept;
     QPushButton* m_reject;
 };

@@ -27,7 +27,8 @@ ProgramPage::ProgramPage(const Theme& theme, QWidget* parent)
       m_state(new QLabel(this)), m_save(new QPushButton(this)), m_tools(new ProgramTools(theme, this)),
       m_notice(new QLabel(this)), m_body(new QWidget(this)), m_columns(new QBoxLayout(QBoxLayout::LeftToRight, m_body)),
       m_list(new QListView(this)), m_delegate(new ProgramDelegate(m_types, theme, this)),
-      m_lines(new QStackedWidget(this)), m_noLines(new EmptyState(this)), m_noProgram(new EmptyState(this)),
+      m_lines(new QStackedWidget(this)), m_noLines(new EmptyState(this)), m_noProgram(new QWidget(this)),
+      m_noProgramTexts(new EmptyState(m_noProgram)), m_tryAgain(new QPushButton(m_noProgram)),
       m_panel(new QFrame(this)), m_parts(new QStackedWidget(this)), m_hint(new QLabel(this)),
       m_picker(new ProgramPicker(m_types, theme, this)), m_editor(new ProgramEditor(theme, this)) {
     m_state->setObjectName(QStringLiteral("programState"));
@@ -41,6 +42,7 @@ ProgramPage::ProgramPage(const Theme& theme, QWidget* parent)
     connect(&m_showTimer, &QTimer::timeout, this, &ProgramPage::showNow);
     makeList();
     makePanel();
+    makeNoProgram();
     arrange();
     addKeys();
     follow();
@@ -86,6 +88,18 @@ void ProgramPage::makePanel() {
     column->addWidget(m_parts);
 }
 
+void ProgramPage::makeNoProgram() {
+    m_tryAgain->setObjectName(QStringLiteral("openAgain"));
+    auto* column = new QVBoxLayout(m_noProgram);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(m_noProgramTexts, 1);
+    column->addWidget(m_tryAgain, 0, Qt::AlignHCenter);
+    connect(m_tryAgain, &QPushButton::clicked, this, [this] {
+        m_store->follow();
+        showNow();
+    });
+}
+
 void ProgramPage::arrange() {
     actions()->addWidget(m_state);
     actions()->addSpacing(8);
@@ -124,16 +138,18 @@ void ProgramPage::follow() {
     connect(m_save, &QPushButton::clicked, this, &ProgramPage::save);
     connect(m_picker, &ProgramPicker::picked, this, &ProgramPage::startInserting);
     connect(m_picker, &ProgramPicker::canceled, this, &ProgramPage::reject);
+    connect(m_picker, &ProgramPicker::placeChosen, this, &ProgramPage::showPlace);
     connect(m_editor, &ProgramEditor::accepted, this, &ProgramPage::accept);
     connect(m_editor, &ProgramEditor::rejected, this, &ProgramPage::reject);
     connect(m_list->selectionModel(), &QItemSelectionModel::currentChanged, this, &ProgramPage::showSoon);
     connect(program(), &Program::touched, this, &ProgramPage::showRow);
     connect(program(), &Program::linesChanged, this, &ProgramPage::showSoon);
-    connect(program(), &Program::modifiedChanged, this, &ProgramPage::showState);
+    connect(program(), &Program::modifiedChanged, this, &ProgramPage::changedToSaved);
     connect(program()->undoStack(), &QUndoStack::indexChanged, this, &ProgramPage::showTools);
     connect(m_store, &ProgramStore::opened, this, &ProgramPage::programOpened);
     connect(m_store, &ProgramStore::takenUpChanged, this, &ProgramPage::showState);
-    connect(m_store, &ProgramStore::failed, this, &ProgramPage::tell);
+    connect(m_store, &ProgramStore::failed, this, &ProgramPage::tellKeeping);
+    connect(m_store, &ProgramStore::recovered, this, &ProgramPage::keptAgain);
     connect(m_types, &LineTypes::patternFailed, this, &ProgramPage::reportPattern);
 }
 
@@ -155,6 +171,7 @@ void ProgramPage::retranslate() {
     m_hint->setText(tr("Select a line to edit it."));
     m_noLines->setTexts(tr("No lines yet"), tr("The lines of the robot program stand here. Press “Insert” and choose "
                                                "an instruction for the first one."));
+    m_tryAgain->setText(tr("Try again"));
     m_tools->retranslate();
     m_picker->retranslate();
     m_editor->retranslate();
@@ -173,8 +190,10 @@ void ProgramPage::showEvent(QShowEvent* event) {
 // A window that is merely minimised is not left.
 void ProgramPage::hideEvent(QHideEvent* event) {
     Page::hideEvent(event);
-    if (!event->spontaneous())
-        leave();
+    if (event->spontaneous())
+        return;
+    noteUnapplied();
+    leave();
 }
 
 void ProgramPage::resizeEvent(QResizeEvent* event) {

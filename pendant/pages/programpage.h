@@ -52,6 +52,7 @@ private:
 
     Program* program() const { return m_store->program(); }
     int row() const;
+    int newRow() const;
     void makeList();
     void makePanel();
     void arrange();
@@ -82,6 +83,12 @@ private:
     void showTools();
     void showState();
     void showPlace();
+    void showNoProgram();
+    void makeNoProgram();
+    void noteUnapplied();
+    void tellKeeping(const QString& problem);
+    void keptAgain();
+    void changedToSaved(bool modified);
     void tell(const QString& problem);
     static void reportPattern(const QString& type, const QString& what);
 
@@ -91,6 +98,8 @@ private:
     QPersistentModelIndex m_shown; ///< the line whose widget is open
     QString m_warning;             ///< about the line that was just written
     QString m_problem;             ///< what could not be saved or kept
+    QString m_unapplied;           ///< what was left without being applied
+    bool m_isSaveProblem = false;
     QTimer m_showTimer;
     bool m_isNarrow = false;
     bool m_isLow = false;
@@ -105,7 +114,9 @@ private:
     ProgramDelegate* m_delegate;
     QStackedWidget* m_lines;
     EmptyState* m_noLines;
-    EmptyState* m_noProgram;
+    QWidget* m_noProgram;
+    EmptyState* m_noProgramTexts;
+    QPushButton* m_tryAgain;
     QFrame* m_panel;
     QStackedWidget* m_parts;
     QLabel* m_hint;

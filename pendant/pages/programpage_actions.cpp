@@ -37,6 +37,7 @@ void ProgramPage::use(ProgramTools::Tool tool) {
 void ProgramPage::pick() {
     readTypes();
     m_picker->start();
+    noteUnapplied();
     setMode(Mode::Picking);
     showNow();
 }
@@ -64,10 +65,12 @@ void ProgramPage::accept() {
     const QPointer<ProgramPage> living(this);
     ProgramWriter writer(program(), m_types, m_editor);
     const ProgramWriter::Result result =
-        m_mode == Mode::Inserting ? writer.insert(row() + 1) : writer.replace(m_shown.row());
+        m_mode == Mode::Inserting ? writer.insert(newRow()) : writer.replace(m_shown.row());
     if (!living || !result.isDone)
         return;
     m_warning = result.warning;
+    m_unapplied.clear();
+    m_editor->setApplied();
     setMode(Mode::Reading);
     showNow();
 }
@@ -90,8 +93,27 @@ void ProgramPage::save() {
         return;
     QString error;
     m_problem.clear();
-    if (!m_store->save(&error))
+    m_isSaveProblem = !m_store->save(&error);
+    if (m_isSaveProblem)
         tell(error);
+    showState();
+}
+
+// A notice that is no longer true goes.
+void ProgramPage::changedToSaved(bool modified) {
+    if (!modified)
+        m_problem.clear();
+    showState();
+}
+
+void ProgramPage::tellKeeping(const QString& problem) {
+    m_isSaveProblem = false;
+    tell(problem);
+}
+
+void ProgramPage::keptAgain() {
+    if (!m_isSaveProblem)
+        m_problem.clear();
     showState();
 }
 

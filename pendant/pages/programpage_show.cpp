@@ -11,8 +11,18 @@ namespace pendant {
 
 namespace {
 
+const int longestProject = 24;
+
 bool isBlank(const QString& line) {
     return line.trimmed().isEmpty();
+}
+
+// LOCALHOST/demo, main -> demo / main
+QString nameOf(const ProgramPlace& place) {
+    QString project = place.project().section(QLatin1Char('/'), -1);
+    if (project.size() > longestProject)
+        project = project.left(longestProject - 1) + QStringLiteral("…");
+    return project + QStringLiteral(" / ") + place.name();
 }
 
 } // namespace
@@ -21,9 +31,15 @@ int ProgramPage::row() const {
     return m_list->currentIndex().row();
 }
 
+// Where a line that is inserted now would come.
+int ProgramPage::newRow() const {
+    return row() < 0 || !m_picker->isAbove() ? row() + 1 : row();
+}
+
 void ProgramPage::programOpened() {
     leave();
     m_problem.clear();
+    m_unapplied.clear();
     if (program()->count() > 0)
         showRow(0);
     showSoon();
@@ -72,9 +88,24 @@ void ProgramPage::showLine() {
     // The focus would go to who knows where with the field that has it.
     if (m_panel->isAncestorOf(focusWidget()))
         m_list->setFocus();
+    noteUnapplied();
     leave();
     if (row() >= 0)
         openLine(type);
+}
+
+// It went with the widget; nobody shall believe it in the program.
+void ProgramPage::noteUnapplied() {
+    const ProgramSubject& subject = m_editor->subject();
+    if (subject.purpose == ProgramSubject::Nothing)
+        return;
+    m_unapplied.clear();
+    if (!m_editor->isEdited())
+        return;
+    if (m_mode == Mode::Inserting)
+        m_unapplied = tr("Not inserted: the line of “%1” that was begun.").arg(subject.title);
+    else if (m_shown.isValid())
+        m_unapplied = tr("Not applied: what was entered in line %1 is not in the program.").arg(m_shown.row() + 1);
 }
 
 bool ProgramPage::isShown(const QString& type) const {
@@ -135,16 +166,24 @@ void ProgramPage::showParts() {
         m_parts->setCurrentWidget(m_hint);
     else
         m_parts->setCurrentWidget(m_editor);
-    m_noProgram->setTexts(
-        tr("No program is open"),
-        tr("The robot program of the open project is edited here. The project comes from the controller when "
-           "the links are up. %1")
-            .arg(m_store->problem()));
+    showNoProgram();
+}
+
+void ProgramPage::showNoProgram() {
+    const ProgramPlace& place = m_store->place();
+    m_tryAgain->setVisible(place.isValid());
+    if (place.isValid())
+        return m_noProgramTexts->setTexts(tr("The program cannot be read"), m_store->problem());
+    m_noProgramTexts->setTexts(tr("No program is open"),
+                               tr("The robot program of the open project is edited here. %1 Open a project, or make "
+                                  "one, on the page “Projects”.")
+                                   .arg(m_store->problem()));
 }
 
 void ProgramPage::showPlace() {
-    const int next = row() + 2;
-    const QString place = program()->count() == 0 ? tr("Becomes the first line") : tr("Becomes line %1").arg(next);
+    const bool isFirst = program()->count() == 0;
+    const QString place = isFirst ? tr("Becomes the first line") : tr("Becomes line %1").arg(newRow() + 1);
+    m_picker->setChoice(!isFirst);
     m_picker->setPlace(place);
     m_editor->setPlace(m_mode == Mode::Inserting ? place : tr("Line %1").arg(row() + 1));
 }
@@ -163,10 +202,10 @@ void ProgramPage::showTools() {
 
 void ProgramPage::showState() {
     const bool isModified = m_store->isOpen() && program()->isModified();
-    const QString name = m_store->isOpen() ? m_store->place().name() : QString();
+    const QString name = m_store->isOpen() ? nameOf(m_store->place()) : QString();
     const QString state = isModified ? tr("● %1, not saved").arg(name) : name;
     m_state->setText(m_isLow ? state.left(isModified ? 1 : 0) : state);
-    m_state->setToolTip(state);
+    m_state->setToolTip(m_store->isOpen() ? m_store->place().file() : QString());
     m_save->setText(m_isLow ? QString() : tr("Save"));
     m_save->setVisible(m_store->isOpen());
     m_save->setEnabled(isModified);
@@ -174,7 +213,8 @@ void ProgramPage::showState() {
                                 ? tr("Changes from before that were not saved are in the program again. Save them, or "
                                      "take them back with undo.")
                                 : QString();
-    m_notice->setText(m_problem.isEmpty() ? takenUp : m_problem);
+    const QString note = m_unapplied.isEmpty() ? takenUp : m_unapplied;
+    m_notice->setText(m_problem.isEmpty() ? note : m_problem);
     m_notice->setVisible(!m_notice->text().isEmpty());
     m_notice->setProperty("state", m_problem.isEmpty() ? QStringLiteral("warning") : QStringLiteral("error"));
     m_notice->style()->unpolish(m_notice);

@@ -26,10 +26,16 @@ public:
     /// Shows all types as they are now.
     void start();
     void setPlace(const QString& place) { m_place->setText(place); }
+    /// Whether the new line comes above the one at the cursor; below it, unless somebody chose otherwise since start().
+    bool isAbove() const { return m_above->isChecked(); }
+    /// Offers the choice. Without it the line comes below.
+    void setChoice(bool offered);
 
 signals:
     void picked(const QString& type);
     void canceled();
+    /// isAbove() is another now.
+    void placeChosen();
 
 private:
     void arrange();
@@ -40,6 +46,7 @@ private:
     ProgramPickerDelegate* m_delegate;
     QLabel* m_title;
     QLabel* m_place;
+    QPushButton* m_above;
     QLineEdit* m_find;
     QListView* m_list;
     QLabel* m_nothing;

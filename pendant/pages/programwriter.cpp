@@ -37,8 +37,10 @@ ProgramWriter::Result ProgramWriter::replace(int row) {
 bool ProgramWriter::askFor(QString* line, bool inserts) {
     const QPointer<ProgramEditor> editor(m_editor);
     const QPointer<ProgramContent> content(m_editor->content());
-    if (!content)
+    if (!content) {
+        m_editor->giveUpGone();
         return false;
+    }
     m_editor->setNotice(ProgramEditor::Tone::Plain, QString());
     const ProgramContent::Answer answer = inserts ? content->checkInsert() : content->checkReplace();
     if (answer == ProgramContent::Answer::Yes && content->toLine(line))
@@ -47,18 +49,26 @@ bool ProgramWriter::askFor(QString* line, bool inserts) {
     if (!editor || !editor->holds(content))
         return false;
     if (answer == ProgramContent::Answer::No)
-        return refuse(tr("“%1” refuses this line.").arg(m_editor->subject().title));
+        return refuse(tr("“%1” refuses this line.").arg(m_editor->subject().title), true);
     m_editor->giveUp();
     return false;
 }
 
 bool ProgramWriter::takes(const QString& line) {
     const QString refusal = Program::refusalOf(line);
-    return refusal.isEmpty() || refuse(refusal);
+    if (!refusal.isEmpty())
+        return refuse(refusal, false);
+    const ProgramSubject& subject = m_editor->subject();
+    // An instruction that has nothing to say says just that.
+    if (!line.trimmed().isEmpty() || m_types->typesOf(line).contains(subject.type))
+        return true;
+    const QString empty = tr("“%1” made an empty line, which was not taken.").arg(subject.title);
+    MessageList::instance()->add(MessageLevel::Warning, subject.type, empty);
+    return refuse(empty, false);
 }
 
-bool ProgramWriter::refuse(const QString& reason) {
-    m_editor->refuse(reason);
+bool ProgramWriter::refuse(const QString& reason, bool isByWidget) {
+    m_editor->refuse(reason, isByWidget);
     return false;
 }
 

@@ -31,7 +31,7 @@ public:
 private:
     bool askFor(QString* line, bool inserts);
     bool takes(const QString& line);
-    bool refuse(const QString& reason);
+    bool refuse(const QString& reason, bool isByWidget);
     QString warningFor(const QString& type, const QString& title, const QString& line) const;
 
     Program* m_program;

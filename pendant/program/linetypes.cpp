@@ -58,6 +58,7 @@ void LineTypes::compile() {
     m_matchers.clear();
     m_badPatterns.clear();
     m_known.clear();
+    m_knownTypes.clear();
     for (const QString& type : qAsConst(m_types)) {
         const QString given = pattern(type);
         if (!given.isEmpty())
@@ -114,11 +115,17 @@ QString LineTypes::typeOf(const QString& line) const {
 }
 
 QStringList LineTypes::typesOf(const QString& line) const {
+    const auto known = m_knownTypes.constFind(line);
+    if (known != m_knownTypes.constEnd())
+        return *known;
     QStringList types;
     for (const Matcher& matcher : m_matchers) {
         if (isFound(matcher, line))
             types << matcher.type;
     }
+    if (m_knownTypes.size() >= mostKnown)
+        m_knownTypes.clear();
+    m_knownTypes.insert(line, types);
     return types;
 }
 

@@ -51,7 +51,8 @@ public:
     QStringList types() const { return m_types; }
     /// The first type whose lines `line` is one of; empty when there is none. What was asked before is remembered.
     QString typeOf(const QString& line) const;
-    /// All types whose lines `line` is one of, the first first. Tries every pattern.
+    /// All types whose lines `line` is one of, the first first. Tries every pattern; what was asked before is
+    /// remembered.
     QStringList typesOf(const QString& line) const;
     QVector<BadPattern> badPatterns() const { return m_badPatterns; }
 
@@ -118,6 +119,7 @@ private:
     QVector<Matcher> m_matchers;
     QVector<BadPattern> m_badPatterns;
     mutable QHash<QString, int> m_known; // line -> its matcher, -1 for none
+    mutable QHash<QString, QStringList> m_knownTypes;
     mutable QSet<QPair<QString, QString>> m_told;
 };
 

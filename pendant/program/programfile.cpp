@@ -2,6 +2,7 @@
 
 #include "program.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -9,6 +10,8 @@
 #include <QTextCodec>
 
 #include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace pendant {
@@ -43,9 +46,25 @@ QByteArray bytesOf(const QStringList& lines) {
     return bytes;
 }
 
+// 0, or why nothing can be said of what stands there.
+int errorOf(const QString& path) {
+    struct stat there;
+    return ::stat(QFile::encodeName(path).constData(), &there) == 0 ? 0 : errno;
+}
+
+// A name that was given anew is on the disk only when its folder is. Where the file system knows no such thing, there
+// is nothing to be done.
+void syncFolder(const QString& path) {
+    const int folder = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (folder < 0)
+        return;
+    fsync(folder);
+    ::close(folder);
+}
+
 } // namespace
 
-bool ProgramFile::load(const QString& path, QStringList* lines, QString* error) {
+bool ProgramFile::load(const QString& path, QStringList* lines, QString* error, QByteArray* fingerprint) {
     QByteArray bytes;
     QStringList read;
     QString why = readBytes(path, &bytes);
@@ -56,7 +75,46 @@ bool ProgramFile::load(const QString& path, QStringList* lines, QString* error) 
         return false;
     }
     *lines = read;
+    if (fingerprint)
+        *fingerprint = fingerprintOf(bytes);
     return true;
+}
+
+bool ProgramFile::isMissing(const QString& path, const QString& project, QString* error) {
+    if (QFileInfo(path).isSymLink() || errorOf(path) == 0)
+        return false;
+    int why = errorOf(path);
+    if (why == ENOENT)
+        why = errorOf(QFileInfo(path).path());
+    if (why == ENOENT)
+        why = errorOf(project);
+    if (why != 0)
+        *error = tr("The program %1 cannot be read: %2")
+                     .arg(QDir::toNativeSeparators(path),
+                          why == ENOENT ? tr("the folder of its project is not there.") : qt_error_string(why));
+    return why == 0;
+}
+
+QByteArray ProgramFile::fingerprintOf(const QByteArray& bytes) {
+    return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256);
+}
+
+QByteArray ProgramFile::fingerprint(const QStringList& lines) {
+    return fingerprintOf(bytesOf(lines));
+}
+
+bool ProgramFile::readFingerprint(const QString& path, QByteArray* fingerprint, QString* error) {
+    fingerprint->clear();
+    if (!QFileInfo(path).isFile())
+        return true;
+    QByteArray bytes;
+    const QString why = readBytes(path, &bytes);
+    if (why.isEmpty())
+        *fingerprint = fingerprintOf(bytes);
+    else
+        *error = tr("What stands in %1 now cannot be read, and nothing was written over it: %2")
+                     .arg(QDir::toNativeSeparators(path), why);
+    return why.isEmpty();
 }
 
 // These give what is wrong, and nothing when all is well.
@@ -115,7 +173,10 @@ QString ProgramFile::write(const QString& path, const QByteArray& bytes) {
     // commit() does not ask whether all has reached the disk.
     if (fsync(file.handle()) != 0)
         return qt_error_string(errno);
-    return file.commit() ? QString() : file.errorString();
+    if (!file.commit())
+        return file.errorString();
+    syncFolder(QFileInfo(path).path());
+    return QString();
 }
 
 } // namespace pendant

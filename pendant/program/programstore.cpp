@@ -3,24 +3,13 @@
 #include "programfile.h"
 #include "project/projectkeys.h"
 
-#include <QFile>
 #include <QFileInfo>
+
+#include <utility>
 
 using brisk::ModuleObject;
 
 namespace pendant {
-
-namespace {
-
-// The new name; empty when it cannot be renamed.
-QString moveAway(const QString& path) {
-    QString target = path + QStringLiteral(".unreadable");
-    for (int number = 2; QFileInfo::exists(target); ++number)
-        target = path + QStringLiteral(".unreadable%1").arg(number);
-    return QFile::rename(path, target) ? target : QString();
-}
-
-} // namespace
 
 ProgramStore::ProgramStore(QObject* parent, int keepDelayMs)
     : QObject(parent), m_problem(m_place.problem()), m_project(projectkeys::name()),
@@ -56,15 +45,16 @@ void ProgramStore::listen(ModuleObject* node) {
 void ProgramStore::follow() {
     const ProgramPlace place = ProgramPlace::ofTree();
     m_isHeld = false;
-    if (m_isOpen && place == m_place)
+    if (m_isOpen && place == m_place && !m_folder.isReplaced())
         return;
     QString error;
     const bool isKept = keepUnsaved(&error);
-    if (!isKept)
-        reportOnce(error);
+    if (!isKept && error != m_reported && isProjectGone())
+        m_toTell << error;
     // Of a project that was deleted nothing is left to go back to.
     if (isKept || isProjectGone())
         return open(place);
+    reportOnce(error);
     m_isHeld = true;
     m_keepTimer.start();
 }
@@ -72,40 +62,37 @@ void ProgramStore::follow() {
 void ProgramStore::open(const ProgramPlace& place) {
     QStringList lines;
     QString problem = place.problem();
-    const bool isOpen =
-        place.isValid() && (!QFileInfo::exists(place.file()) || ProgramFile::load(place.file(), &lines, &problem));
+    const bool isOpen = place.isValid() && read(place, &lines, &problem);
     if (!isOpen && !m_isOpen && place == m_place && problem == m_problem)
         return;
     m_place = place;
-    m_hadProject = QFileInfo(place.projectFolder()).isDir();
+    m_folder.hold(place.projectFolder());
     m_problem = problem;
     m_isOpen = isOpen;
+    m_isBlocked = false;
+    m_other.clear();
     m_reported.clear();
     m_program.load(lines);
     if (m_isOpen)
         takeUpUnsaved();
     m_keepTimer.stop();
     emit opened();
+    const QStringList failures = std::exchange(m_toTell, QStringList());
+    for (const QString& failure : failures)
+        emit failed(failure);
 }
 
-void ProgramStore::takeUpUnsaved() {
-    const QString path = m_place.unsavedFile();
-    QStringList lines;
-    QString error;
-    if (!QFileInfo::exists(path))
-        return;
-    if (!ProgramFile::load(path, &lines, &error))
-        return setUnreadableAside(error);
-    m_program.replaceAll(lines, tr("Take up unsaved changes"));
-    setTakenUp(m_program.isModified());
-    if (!m_hasTakenUp)
-        forgetUnsaved();
-}
-
-// The changes to come must not be written over it.
-void ProgramStore::setUnreadableAside(const QString& error) {
-    const QString target = moveAway(m_place.unsavedFile());
-    emit failed(target.isEmpty() ? error : error + QLatin1Char(' ') + tr("It was renamed to %1.").arg(target));
+bool ProgramStore::read(const ProgramPlace& place, QStringList* lines, QString* problem) {
+    QByteArray fingerprint;
+    QString why;
+    const bool isRead = ProgramFile::isMissing(place.file(), place.projectFolder(), &why) ||
+                        (why.isEmpty() && ProgramFile::load(place.file(), lines, &why, &fingerprint));
+    *problem = why;
+    if (!isRead)
+        return false;
+    m_basis = fingerprint;
+    m_basisTime = QFileInfo(place.file()).lastModified();
+    return true;
 }
 
 void ProgramStore::setTakenUp(bool takenUp) {
@@ -120,25 +107,20 @@ bool ProgramStore::save(QString* error) {
         *error = m_problem;
         return false;
     }
+    if (!isProjectGone() && !keepOther(error))
+        return false;
     if (!write(m_place.file(), error))
         return false;
+    m_other.clear();
+    m_basis = ProgramFile::fingerprint(m_program.lines());
+    m_basisTime = QFileInfo(m_place.file()).lastModified();
     m_program.setSaved();
     keepNow();
     return true;
 }
 
-bool ProgramStore::keepUnsaved(QString* error) {
-    m_keepTimer.stop();
-    if (!m_isOpen)
-        return true;
-    if (m_program.isModified())
-        return write(m_place.unsavedFile(), error);
-    forgetUnsaved();
-    return true;
-}
-
 bool ProgramStore::isProjectGone() const {
-    return m_hadProject && !QFileInfo(m_place.projectFolder()).isDir();
+    return m_folder.isGone();
 }
 
 bool ProgramStore::write(const QString& path, QString* error) {
@@ -159,13 +141,10 @@ void ProgramStore::keepNow() {
         reportOnce(error);
         return m_keepTimer.start();
     }
-    m_reported.clear();
     if (m_isHeld)
         m_followTimer.start();
-}
-
-void ProgramStore::forgetUnsaved() {
-    QFile::remove(m_place.unsavedFile());
+    if (!std::exchange(m_reported, QString()).isEmpty())
+        emit recovered();
 }
 
 void ProgramStore::reportOnce(const QString& what) {

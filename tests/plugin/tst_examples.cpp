@@ -18,15 +18,20 @@ class TestExamples : public QObject {
 private slots:
     void initTestCase() {
         m_pendant.reset(new Pendant);
+        QVERIFY(m_pendant->load(PLUGIN_dashboard));
         QVERIFY(m_pendant->load(PLUGIN_hello));
         QVERIFY(m_pendant->load(PLUGIN_monitor));
+        QVERIFY(m_pendant->load(PLUGIN_pickplace));
         QVERIFY(m_pendant->load(PLUGIN_teach));
         QVERIFY(m_pendant->load(PLUGIN_weld));
         m_pendant->start();
         QVERIFY(!m_pendant->session().hasFailures());
     }
 
-    void eachHasItsEntry() { QCOMPARE(m_pendant->navigation(), QStringList({"Hello", "Monitor", "Teach", "Weld"})); }
+    void eachHasItsEntry() {
+        QCOMPARE(m_pendant->navigation(),
+                 QStringList({"Dashboard", "Hello", "Monitor", "Pick and place", "Teach", "Weld"}));
+    }
 
     void helloShowsItsGreeting() {
         QVERIFY(m_pendant->open("hello"));
@@ -41,6 +46,16 @@ private slots:
     void monitorSaysThatNothingIsConnected() {
         QVERIFY(m_pendant->open("monitor"));
         QCOMPARE(m_pendant->page("monitor")->findChild<QLabel*>("linkState")->text(), QString("Not connected"));
+    }
+
+    void dashboardSaysThatNothingIsLive() {
+        QVERIFY(m_pendant->open("dashboard"));
+        QVERIFY(m_pendant->page("dashboard")->findChild<QLabel*>("links")->text().startsWith("The bus is down."));
+    }
+
+    void pickplaceSaysWhereTheRobotCanBeSent() {
+        QVERIFY(m_pendant->open("pickplace"));
+        QVERIFY(m_pendant->page("pickplace")->findChild<QLabel*>("reason")->text().contains("x = y"));
     }
 
     void teachSaysWhatToDoFirst() {

@@ -121,6 +121,8 @@ class EditorTest : public QObject {
 
 protected:
     static void setProject(const QString& name) {
+        if (!name.contains("..") && !name.isEmpty())
+            QVERIFY(QDir().mkpath("workspace/" + name));
         m("orca.project.cur_project")->setValue(nullptr, name);
         settle();
     }

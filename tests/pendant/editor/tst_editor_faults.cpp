@@ -30,7 +30,17 @@ private slots:
     void anInsertionIsGivenUpWhenThePageIsLeft();
     void aLineThatNoProgramCanHoldIsRefused();
     void aLineThatItsOwnPatternDoesNotMatchIsWrittenWithAWarning();
-    void anEmptyLineFromAWrapperWithoutContentIsWrittenWithAWarning();
+    void anEmptyLineIsNotTaken_data();
+    void anEmptyLineIsNotTaken();
+    void anEmptyLineThatThePatternMatchesIsTaken();
+    void aDialogOfAContentOutlivesTheProject();
+    void aContentThatGoesBetweenCallsIsTold_data();
+    void aContentThatGoesBetweenCallsIsTold();
+    void aContentWithAnotherParentIsCalled();
+    void aRefusalWithoutAReasonSaysSo();
+    void whatIsNotAppliedIsTold_data();
+    void whatIsNotAppliedIsTold();
+    void whatIsAppliedIsNotToldOf();
     void aBadPatternIsReportedOnce();
     void widgetsGoWhenTheyAreLeft_data();
     void widgetsGoWhenTheyAreLeft();
@@ -260,12 +270,163 @@ void TestEditorFaults::aLineThatItsOwnPatternDoesNotMatchIsWrittenWithAWarning()
     QCOMPARE(editor.notice(), QString());
 }
 
-void TestEditorFaults::anEmptyLineFromAWrapperWithoutContentIsWrittenWithAWarning() {
+void TestEditorFaults::anEmptyLineIsNotTaken_data() {
+    QTest::addColumn<QString>("line");
+    QTest::newRow("empty") << "";
+    QTest::newRow("blanks") << "  \t";
+}
+
+void TestEditorFaults::anEmptyLineIsNotTaken() {
+    QFETCH(QString, line);
+    write({"Good 1"});
     const Editor editor;
+    editor.field<QLineEdit>("oddField")->setText(line);
+    QVERIFY(editor.press("acceptLine"));
+    QCOMPARE(editor.lines(), QStringList{"Good 1"});
+    QCOMPARE(editor.notice(), QString("“Good” made an empty line, which was not taken."));
     QVERIFY(editor.pick("MakesNothing"));
     QVERIFY(editor.press("acceptLine"));
+    QCOMPARE(editor.lines(), QStringList{"Good 1"});
+    QVERIFY(hasProblem("MakesNothing", "empty line"));
+    checkAlive(editor);
+}
+
+void TestEditorFaults::anEmptyLineThatThePatternMatchesIsTaken() {
+    const QString before = VexManager::getVexManager()->patterns.value("c_Good");
+    VexManager::getVexManager()->patterns["c_Good"] = "^(Good.*)?$";
+    const Editor editor;
+    QVERIFY(editor.pick("Good"));
+    editor.field<QLineEdit>("oddField")->clear();
+    QVERIFY(editor.press("acceptLine"));
+    VexManager::getVexManager()->patterns["c_Good"] = before;
     QCOMPARE(editor.lines(), QStringList{""});
-    QVERIFY(hasProblem("MakesNothing", "does not match"));
+}
+
+// Its own button, not a call of the editor, has opened the dialog.
+void TestEditorFaults::aDialogOfAContentOutlivesTheProject() {
+    write({"Good 1"});
+    write({"Wait 1 ms"}, "another");
+    const Editor editor;
+    const QPointer<QWidget> content(editor.content());
+    bool isAliveInDialog = false;
+    QTimer::singleShot(0, [&] {
+        setProject("another");
+        QTest::qWait(200);
+        isAliveInDialog = content;
+        qApp->activeModalWidget()->close();
+    });
+    const QPointer<QDialog> dialog(new QDialog(editor.field<QLineEdit>("oddField")));
+    dialog->exec();
+    QVERIFY(isAliveInDialog);
+    QVERIFY(dialog);
+    QTRY_VERIFY(!content);
+    QVERIFY(!dialog);
+    QCOMPARE(living(), 0);
+    QCOMPARE(editor.lines(), QStringList{"Wait 1 ms"});
+    checkAlive(editor);
+}
+
+void TestEditorFaults::aContentThatGoesBetweenCallsIsTold_data() {
+    QTest::addColumn<bool>("hasDialog");
+    QTest::newRow("nothing else there") << false;
+    QTest::newRow("a dialog there") << true;
+}
+
+void TestEditorFaults::aContentThatGoesBetweenCallsIsTold() {
+    QFETCH(bool, hasDialog);
+    const Editor editor;
+    QVERIFY(editor.pick("Good"));
+    QWidget* content = editor.field<QLineEdit>("oddField")->parentWidget();
+    if (hasDialog)
+        new QDialog(content->parentWidget());
+    delete content;
+    settle();
+    expect("Good: Its widget deleted itself.");
+    QVERIFY(editor.press("acceptLine"));
+    QCOMPARE(editor.lines(), QStringList());
+    QCOMPARE(editor.notice(), QString("“Good” failed. The messages say why."));
+    QVERIFY(!editor.find("acceptLine"));
+    checkAlive(editor);
+}
+
+void TestEditorFaults::aContentWithAnotherParentIsCalled() {
+    QWidget elsewhere;
+    const Editor editor;
+    QVERIFY(editor.pick("Good"));
+    auto* field = editor.field<QLineEdit>("oddField");
+    field->setText("Good elsewhere");
+    field->parentWidget()->setParent(&elsewhere);
+    QVERIFY(editor.press("acceptLine"));
+    QCOMPARE(editor.lines(), QStringList{"Good elsewhere"});
+}
+
+void TestEditorFaults::aRefusalWithoutAReasonSaysSo() {
+    write({"Good"});
+    const Editor editor;
+    editor.field<QLineEdit>("oddField")->setText("refuse");
+    QVERIFY(editor.press("acceptLine"));
+    QCOMPARE(editor.notice(), QString("“Good” refuses this line. The instruction gives no reason."));
+    QVERIFY(editor.pick("Assign"));
+    QVERIFY(editor.press("acceptLine"));
+    QCOMPARE(editor.notice(), QString("“Assign” refuses this line."));
+}
+
+void TestEditorFaults::whatIsNotAppliedIsTold_data() {
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<QString>("leaving");
+    QTest::addColumn<QString>("told");
+    const QString line = "Not applied: what was entered in line 1 is not in the program.";
+    QTest::newRow("line") << ""
+                          << "line" << line;
+    QTest::newRow("page") << ""
+                          << "page" << line;
+    QTest::newRow("insertion") << ""
+                               << "picker" << line;
+    QTest::newRow("new line") << "Good"
+                              << "page"
+                              << "Not inserted: the line of “Good” that was begun.";
+}
+
+void TestEditorFaults::whatIsNotAppliedIsTold() {
+    QFETCH(QString, type);
+    QFETCH(QString, leaving);
+    QFETCH(QString, told);
+    write({"Good 1", "Wait 1 ms"});
+    Editor editor;
+    QVERIFY(type.isEmpty() || editor.pick(type));
+    QVERIFY(!editor.find("lineUnapplied"));
+    QTest::keyClicks(editor.field<QLineEdit>("oddField"), "2");
+    settle();
+    QCOMPARE(editor.find("lineUnapplied") != nullptr, type.isEmpty());
+    if (leaving == "line")
+        editor.select(1);
+    if (leaving == "picker")
+        editor.press("insertLine");
+    if (leaving == "page") {
+        editor.leave();
+        settle();
+        editor.show();
+    }
+    QCOMPARE(editor.text("programNotice"), told);
+    QVERIFY(!editor.find("lineUnapplied"));
+    QCOMPARE(editor.lines(), (QStringList{"Good 1", "Wait 1 ms"}));
+}
+
+void TestEditorFaults::whatIsAppliedIsNotToldOf() {
+    write({"Good 1", "Wait 1 ms"});
+    const Editor editor;
+    QTest::keyClicks(editor.field<QLineEdit>("oddField"), "2");
+    settle();
+    QVERIFY(editor.press("acceptLine"));
+    QCOMPARE(editor.lines().first(), QString("Good 12"));
+    QCOMPARE(editor.text("programNotice"), QString());
+    // Typed and taken back: it is as it was.
+    QTest::keyClicks(editor.field<QLineEdit>("oddField"), "3");
+    QTest::keyClick(editor.field<QLineEdit>("oddField"), Qt::Key_Backspace);
+    settle();
+    QVERIFY(!editor.find("lineUnapplied"));
+    editor.select(1);
+    QCOMPARE(editor.text("programNotice"), QString());
 }
 
 void TestEditorFaults::aBadPatternIsReportedOnce() {

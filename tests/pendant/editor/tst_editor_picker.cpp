@@ -15,6 +15,7 @@ private slots:
     void namesAndDescriptionsAreFound_data();
     void namesAndDescriptionsAreFound();
     void cancelGoesBackToTheLine();
+    void aLineCanBeInsertedAboveTheFirst();
     void aTypeThatComesLaterIsOffered();
     void aThousandTypesAreOffered();
     void titlesFollowTheLanguage();
@@ -139,6 +140,22 @@ void TestEditorPicker::aThousandTypesAreOffered() {
     QVERIFY(editor.press("acceptLine"));
     QCOMPARE(editor.lines(), QStringList{"Many999"});
     *registry() = before;
+}
+
+void TestEditorPicker::aLineCanBeInsertedAboveTheFirst() {
+    write({"Wait 5 ms"});
+    const Editor editor;
+    QVERIFY(editor.press("insertLine"));
+    QVERIFY(editor.press("insertAbove"));
+    editor.tap(editor.picker(), editor.picker()->model()->index(editor.offered().indexOf("Good"), 0));
+    QCOMPARE(editor.text("editorPlace"), QString("Becomes line 1"));
+    QVERIFY(editor.press("acceptLine"));
+    QCOMPARE(editor.lines(), (QStringList{"Good", "Wait 5 ms"}));
+    QCOMPARE(editor.row(), 0);
+    // The next one comes below again.
+    QVERIFY(editor.pick("Wait"));
+    QVERIFY(editor.press("acceptLine"));
+    QCOMPARE(editor.lines(), (QStringList{"Good", "Wait 500 ms", "Wait 5 ms"}));
 }
 
 void TestEditorPicker::titlesFollowTheLanguage() {

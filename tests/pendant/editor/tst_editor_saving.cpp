@@ -15,6 +15,9 @@ private slots:
     void savingBySmallKeysWorksToo();
     void aFailureSaysWhatHappenedAndKeepsEverything();
     void changesOfAPendantThatWentDownAreTakenUpAndTold();
+    void whatIsToldOnOpeningStaysOnThePage();
+    void aNoticeThatIsNoLongerTrueGoes();
+    void aProgramThatCannotBeReadIsToldAndTriedAgain();
     void aWindowThatIsMinimisedKeepsItsWidget();
 
 private:
@@ -40,6 +43,8 @@ void TestEditorSaving::withoutAProjectThePageSaysSo() {
     QVERIFY(!editor.list()->isVisible());
     QVERIFY(!editor.find("insertLine"));
     QVERIFY(!editor.find("saveProgram"));
+    QVERIFY(!editor.find("openAgain"));
+    QVERIFY(words(editor).contains("on the page “Projects”"));
     editor.type(Qt::Key_Insert);
     QVERIFY(!editor.picker());
 }
@@ -59,7 +64,7 @@ void TestEditorSaving::theProgramOfTheProjectIsThereWhenItIsKnown() {
     QCOMPARE(editor.lines(), QStringList{"Wait 5 ms"});
     QCOMPARE(editor.row(), 0);
     QCOMPARE(editor.field<QSpinBox>("waitTime")->value(), 5);
-    QCOMPARE(editor.text("programState"), QString("main"));
+    QCOMPARE(editor.text("programState"), QString("demo / main"));
 }
 
 void TestEditorSaving::anotherProjectHasAnotherProgram() {
@@ -80,9 +85,9 @@ void TestEditorSaving::whatIsNotSavedIsMarked() {
     const Editor editor;
     QVERIFY(!editor.isEnabled("saveProgram"));
     change(editor);
-    QCOMPARE(editor.text("programState"), QString::fromUtf8("● main, not saved"));
+    QCOMPARE(editor.text("programState"), QString::fromUtf8("● demo / main, not saved"));
     QVERIFY(editor.press("saveProgram"));
-    QCOMPARE(editor.text("programState"), QString("main"));
+    QCOMPARE(editor.text("programState"), QString("demo / main"));
     QVERIFY(!editor.isEnabled("saveProgram"));
     QCOMPARE(read(), QString("Wait 5 ms\n// new\n"));
     editor.press("undoStep");
@@ -129,6 +134,42 @@ void TestEditorSaving::changesOfAPendantThatWentDownAreTakenUpAndTold() {
     again.press("undoStep");
     QCOMPARE(again.lines(), QStringList{"Wait 5 ms"});
     QCOMPARE(again.text("programNotice"), QString());
+}
+
+void TestEditorSaving::whatIsToldOnOpeningStaysOnThePage() {
+    write({"Wait 5 ms"});
+    QFile unsaved(fileOf() + ".unsaved");
+    QVERIFY(unsaved.open(QIODevice::WriteOnly) && unsaved.write("\xff") == 1);
+    unsaved.close();
+    expect("pendant: ");
+    const Editor editor;
+    QVERIFY2(editor.text("programNotice").contains(".unreadable"), qPrintable(editor.text("programNotice")));
+    setProject("other");
+    QCOMPARE(editor.text("programNotice"), QString());
+}
+
+void TestEditorSaving::aNoticeThatIsNoLongerTrueGoes() {
+    write({"Wait 5 ms"});
+    const Editor editor;
+    change(editor);
+    QVERIFY(QDir().mkpath(fileOf() + ".unsaved/in the way"));
+    expect("pendant: ");
+    QTRY_VERIFY(editor.text("programNotice").contains(".unsaved"));
+    QVERIFY(QDir(fileOf() + ".unsaved").removeRecursively());
+    QTRY_COMPARE(editor.text("programNotice"), QString());
+}
+
+void TestEditorSaving::aProgramThatCannotBeReadIsToldAndTriedAgain() {
+    write({"Wait 5 ms"});
+    QVERIFY(QFile::rename("workspace", "away"));
+    const Editor editor;
+    QVERIFY2(words(editor).contains("The program cannot be read"), qPrintable(words(editor)));
+    QVERIFY(editor.press("openAgain"));
+    QVERIFY(editor.find("openAgain"));
+    QVERIFY(QFile::rename("away", "workspace"));
+    QVERIFY(editor.press("openAgain"));
+    QCOMPARE(editor.lines(), QStringList{"Wait 5 ms"});
+    QVERIFY(!editor.find("openAgain"));
 }
 
 void TestEditorSaving::aWindowThatIsMinimisedKeepsItsWidget() {

@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QSpinBox>
 
+using brisk::ModuleObject;
 using helm::BaseContentWidget;
 
 // The editors of the pendant's own instructions, as the program editor gets them.
@@ -30,6 +31,9 @@ private slots:
     void thePointsOfTheProjectAreOffered();
     void theVariablesOfTheProjectAreOffered();
     void toolsAndWorkObjectsInUseAreOffered();
+    void toolsAndWorkObjectsOfTheTreeAreOffered();
+    void theDigitalOutputsAreOffered();
+    void blanksAroundANameAreNoPartOfIt();
     void aPointThatIsNotInTheProjectIsShown();
     void halvesStandOneBelowTheOtherWhereThereIsNoRoom();
     void captionsFollowTheLanguage();
@@ -202,6 +206,47 @@ void TestInstructionWidgets::toolsAndWorkObjectsInUseAreOffered() {
     const Editor editor("MoveJ");
     QCOMPARE(items(editor.find<QComboBox>("moveTool")), (QStringList{"gun", "gripper"}));
     QCOMPARE(items(editor.find<QComboBox>("moveWorkObject")), (QStringList{"door", "table"}));
+}
+
+void TestInstructionWidgets::toolsAndWorkObjectsOfTheTreeAreOffered() {
+    m("orca.toolpage.tool")->setValue(nullptr, "own");
+    m("orca.toolpage.wobj")->setValue(nullptr, "");
+    addRecord(m("orca.project.tool._list"), {{"name", "own"}});
+    addRecord(m("orca.project.tool.system_list"), {{"name", "flange"}});
+    addRecord(m("orca.setting.g_tool.g_tools"), {{"name", "g_tool_gun"}});
+    addRecord(m("orca.project.wobj.system_list"), {{"name", "base"}});
+    addRecord(m("orca.setting.g_wobj.g_wobjs"), {{"name", "g_wobj_table"}});
+    const Editor editor("MoveJ");
+    m("orca.setting")->clear(nullptr, true, true);
+    QCOMPARE(items(editor.find<QComboBox>("moveTool")), (QStringList{"own", "flange", "g_tool_gun"}));
+    QCOMPARE(items(editor.find<QComboBox>("moveWorkObject")), (QStringList{"base", "g_wobj_table"}));
+}
+
+void TestInstructionWidgets::theDigitalOutputsAreOffered() {
+    ModuleObject* details = m("orca.robot.io.signal_detail");
+    const QVector<QPair<QString, int>> types{{"in", 1}, {"lamp", 2}, {"group", 4}, {"part gripper", 2}, {"level", 6}};
+    for (const auto& type : types)
+        m("orca.robot.io.signal_detail." + type.first + ".signal_type")->setValue(nullptr, type.second);
+    const Editor editor("SetDO");
+    details->clear(nullptr, true, true);
+    QCOMPARE(items(editor.find<QComboBox>("outputSignal")), (QStringList{"lamp", "part gripper"}));
+    QCOMPARE(editor.find<QComboBox>("outputSignal")->currentText(), QString());
+}
+
+void TestInstructionWidgets::blanksAroundANameAreNoPartOfIt() {
+    const Editor output("SetDO");
+    output.set("outputSignal", " lamp ");
+    QCOMPARE(output.widget->ToString(), QString("SetDO lamp on"));
+    const Editor move("MoveJ");
+    move.set("movePoint", " ");
+    QVERIFY(!move.widget->CheckInsert());
+    move.set("movePoint", "\thome ");
+    move.set("moveTool", " ");
+    QCOMPARE(move.widget->ToString(), QString("MoveJ home speed=50%"));
+    const Editor assign("Assign");
+    assign.set("assignVariable", " a b ");
+    assign.set("assignValue", "1");
+    QCOMPARE(assign.widget->ToString(), QString("Assign \"a b\" = 1"));
 }
 
 void TestInstructionWidgets::aPointThatIsNotInTheProjectIsShown() {

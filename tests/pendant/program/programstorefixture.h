@@ -19,6 +19,7 @@ struct Store {
         QObject::connect(store.get(), &pendant::ProgramStore::opened, &context, [this] { heard << "opened"; });
         QObject::connect(store.get(), &pendant::ProgramStore::takenUpChanged, &context,
                          [this](bool takenUp) { heard << (takenUp ? "taken up" : "not taken up"); });
+        QObject::connect(store.get(), &pendant::ProgramStore::recovered, &context, [this] { heard << "recovered"; });
         QObject::connect(store.get(), &pendant::ProgramStore::failed, &context,
                          [this](const QString& what) { heard << "failed: " + what; });
     }
@@ -38,6 +39,11 @@ class StoreTest : public QObject {
 
 protected:
     static void setProject(const QString& name) { m("orca.project.cur_project")->setValue(nullptr, name); }
+    /// As after a project was made: its folder is there.
+    static void makeProject(const QString& name) {
+        QVERIFY(QDir().mkpath(pathOf(name)));
+        setProject(name);
+    }
     static QString pathOf(const QString& name) { return "workspace/" + name; }
 
     static void write(const QString& name, const QByteArray& bytes) {
@@ -59,6 +65,9 @@ protected:
         names.sort();
         return names;
     }
+
+    /// One line of Qt's that tells of something wrong.
+    void expect(const QString& line) { m_log->expect(line); }
 
     /// A folder stands where the file would be written, which steps aside.
     static void block(const QString& name) {

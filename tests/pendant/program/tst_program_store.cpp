@@ -16,6 +16,14 @@ private slots:
     void aNameThatLeadsElsewhereOpensNone();
     void aProgramThatCannotBeReadIsLeftAlone();
     void whatCouldNotBeReadIsTriedAgain();
+    void aProgramInAFolderThatIsNotThereIsNotEmpty_data();
+    void aProgramInAFolderThatIsNotThereIsNotEmpty();
+    void whatAppearsWhereThereWasNothingIsNotWrittenOver();
+    void whatSomebodyElseWroteIsNotWrittenOver();
+    void whatSomebodyElseWroteTwiceIsToldTwice();
+    void theSameWrittenBySomebodyElseIsNoConflict();
+    void aProjectThatIsMadeAnewIsAnotherOne();
+    void changesDoNotGoIntoAProjectThatIsMadeAnew();
     void savingWritesTheFile();
     void withoutAProgramNothingIsSaved();
     void aSaveThatFailsChangesNothing();
@@ -48,7 +56,7 @@ void TestProgramStore::theProgramOfTheProjectIsOpened() {
 }
 
 void TestProgramStore::aProgramThatIsNotThereYetIsEmpty() {
-    setProject("demo");
+    makeProject("demo");
     Store store;
     store.settle();
     QVERIFY(store->isOpen());
@@ -58,8 +66,8 @@ void TestProgramStore::aProgramThatIsNotThereYetIsEmpty() {
 
 void TestProgramStore::severalNewNamesOpenOneProgram() {
     Store store;
-    setProject("demo");
-    setProject("other");
+    makeProject("demo");
+    makeProject("other");
     m("orca.project.cur_func")->setValue(nullptr, "pick");
     store.settle();
     QCOMPARE(store.heard, QStringList{"opened"});
@@ -165,8 +173,127 @@ void TestProgramStore::whatCouldNotBeReadIsTriedAgain() {
     QCOMPARE(store.heard, (QStringList{"opened", "opened"}));
 }
 
-void TestProgramStore::savingWritesTheFile() {
+void TestProgramStore::aProgramInAFolderThatIsNotThereIsNotEmpty_data() {
+    QTest::addColumn<QString>("away");
+    QTest::addColumn<bool>("isFileInPlace");
+    QTest::newRow("workspace") << "workspace" << false;
+    QTest::newRow("project") << "workspace/demo" << false;
+    QTest::newRow("a file in the project's place") << "workspace/demo" << true;
+    QTest::newRow("a file in the folder's place") << "workspace/demo/programs" << true;
+}
+
+void TestProgramStore::aProgramInAFolderThatIsNotThereIsNotEmpty() {
+    QFETCH(QString, away);
+    QFETCH(bool, isFileInPlace);
+    write("demo/programs/main.txt", "precious\n");
+    QVERIFY(QFile::rename(away, "away"));
+    QFile inPlace(away);
+    QVERIFY(!isFileInPlace || inPlace.open(QIODevice::WriteOnly));
     setProject("demo");
+    Store store;
+    store.settle();
+    QVERIFY(!store->isOpen());
+    QVERIFY2(store->problem().contains("main.txt cannot be read: "), qPrintable(store->problem()));
+    inPlace.remove();
+    QVERIFY(QFile::rename("away", away));
+    QString error;
+    QVERIFY(!store->save(&error));
+    store->follow();
+    QCOMPARE(store.lines(), QStringList{"precious"});
+}
+
+void TestProgramStore::whatAppearsWhereThereWasNothingIsNotWrittenOver() {
+    makeProject("demo");
+    Store store;
+    store.settle();
+    QVERIFY(store->program()->insert(0, "mine"));
+    write("demo/programs/main.txt", "theirs\n");
+    QString error;
+    QVERIFY(!store->save(&error));
+    QVERIFY2(error.contains("somebody else has changed"), qPrintable(error));
+    QCOMPARE(read("demo/programs/main.txt"), QByteArray("theirs\n"));
+}
+
+void TestProgramStore::whatSomebodyElseWroteIsNotWrittenOver() {
+    write("demo/programs/main.txt", "a\n");
+    write("demo/programs/main.txt.other", "from before\n");
+    setProject("demo");
+    Store store;
+    store.settle();
+    QVERIFY(store->program()->insert(1, "mine"));
+    write("demo/programs/main.txt", "theirs\n");
+    QString error;
+    QVERIFY(!store->save(&error));
+    QVERIFY2(error.contains("main.txt.other2"), qPrintable(error));
+    QVERIFY(store->program()->isModified());
+    QCOMPARE(read("demo/programs/main.txt"), QByteArray("theirs\n"));
+    QVERIFY2(store->save(&error), qPrintable(error));
+    QCOMPARE(read("demo/programs/main.txt"), QByteArray("a\nmine\n"));
+    QCOMPARE(read("demo/programs/main.txt.other"), QByteArray("from before\n"));
+    QCOMPARE(read("demo/programs/main.txt.other2"), QByteArray("theirs\n"));
+    // What was saved is what is there now: the next save is as ever.
+    QVERIFY(store->program()->remove(0));
+    QVERIFY2(store->save(&error), qPrintable(error));
+}
+
+void TestProgramStore::whatSomebodyElseWroteTwiceIsToldTwice() {
+    write("demo/programs/main.txt", "a\n");
+    setProject("demo");
+    Store store;
+    store.settle();
+    QVERIFY(store->program()->insert(1, "mine"));
+    QString error;
+    for (const char* theirs : {"first\n", "second\n"}) {
+        write("demo/programs/main.txt", theirs);
+        QVERIFY(!store->save(&error));
+        QCOMPARE(read("demo/programs/main.txt"), QByteArray(theirs));
+    }
+}
+
+void TestProgramStore::theSameWrittenBySomebodyElseIsNoConflict() {
+    write("demo/programs/main.txt", "a\n");
+    setProject("demo");
+    Store store;
+    store.settle();
+    QVERIFY(store->program()->insert(1, "b"));
+    write("demo/programs/main.txt", "a\nb\n");
+    QString error;
+    QVERIFY2(store->save(&error), qPrintable(error));
+    QCOMPARE(files(), QStringList{"demo/programs/main.txt"});
+}
+
+void TestProgramStore::aProjectThatIsMadeAnewIsAnotherOne() {
+    write("demo/programs/main.txt", "old\n");
+    setProject("demo");
+    Store store;
+    store.settle();
+    QVERIFY(QDir(pathOf("demo")).removeRecursively());
+    makeProject("demo");
+    store.settle();
+    QVERIFY(store->isOpen());
+    QCOMPARE(store.lines(), QStringList());
+    QCOMPARE(store.heard, (QStringList{"opened", "opened"}));
+}
+
+void TestProgramStore::changesDoNotGoIntoAProjectThatIsMadeAnew() {
+    write("demo/programs/main.txt", "old\n");
+    setProject("demo");
+    Store store(1000 * 1000);
+    store.settle();
+    QVERIFY(store->program()->insert(0, "changed"));
+    QVERIFY(QDir(pathOf("demo")).removeRecursively());
+    QVERIFY(QDir().mkpath(pathOf("demo")));
+    QString error;
+    QVERIFY(!store->save(&error));
+    setProject("demo");
+    store.settle();
+    QCOMPARE(store.lines(), QStringList());
+    QCOMPARE(files(), QStringList());
+    QCOMPARE(store.heard, (QStringList{"opened", "opened", "failed: " + error}));
+}
+
+void TestProgramStore::savingWritesTheFile() {
+    makeProject("demo");
     Store store;
     store.settle();
     QVERIFY(store->program()->insert(0, "a"));
@@ -205,7 +332,7 @@ void TestProgramStore::aSaveThatFailsChangesNothing() {
 }
 
 void TestProgramStore::aSavedProgramIsOpenedByTheNextStore() {
-    setProject("demo");
+    makeProject("demo");
     {
         Store store;
         store.settle();
