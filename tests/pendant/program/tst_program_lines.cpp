@@ -10,6 +10,8 @@
 
 using pendant::Program;
 
+Q_DECLARE_METATYPE(std::function<bool(Program*)>)
+
 // What a program holds, and what one change does to it.
 class TestProgramLines : public QObject {
     Q_OBJECT
@@ -280,8 +282,6 @@ void TestProgramLines::itGoesWithChangesInItsHistory() {
     delete program;
     QCOMPARE(modified.count() + touches.count(), 0);
 }
-
-Q_DECLARE_METATYPE(std::function<bool(Program*)>)
 
 QTEST_GUILESS_MAIN(TestProgramLines)
 #include "tst_program_lines.moc"

@@ -11,6 +11,8 @@
 using helm::VexManager;
 using pendant::LineTypes;
 
+Q_DECLARE_METATYPE(std::function<void()>)
+
 // Which lines belong to which registered instruction type.
 class TestProgramTypes : public QObject {
     Q_OBJECT
@@ -324,8 +326,6 @@ void TestProgramTypes::tenThousandLinesOfAThousandTypes() {
         QCOMPARE(types.typeOf(QString("%1(%2)").arg(name).arg(i)), name);
     }
 }
-
-Q_DECLARE_METATYPE(std::function<void()>)
 
 QTEST_GUILESS_MAIN(TestProgramTypes)
 #include "tst_program_types.moc"
