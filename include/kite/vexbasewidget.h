@@ -24,9 +24,8 @@ namespace kite {
 ///
 /// Take care: without content everything is accepted, and the line is empty. That is so when the factory returned null,
 /// and from then on when the content is deleted before this widget. What comes of it is the program editor's affair.
-/// This pendant's writes the empty line of a factory that returned null, with a warning that the instruction's pattern
-/// does not match it. Of a content that was deleted it writes nothing, and when that happened in one of these calls the
-/// message list says "Its widget deleted itself in ...".
+/// This pendant's refuses the empty line of a factory that returned null, and says so. Of a content that was deleted it
+/// writes nothing, and the message list names it.
 ///
 /// User-interface thread only.
 /// \since 0.1

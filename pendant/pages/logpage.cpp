@@ -104,7 +104,10 @@ void LogPage::connectParts() {
     connect(m_time, &QPushButton::toggled, this, &LogPage::showTimeBar);
     connect(m_timeBar, &LogTimeBar::wanted, this, &LogPage::showTime);
     connect(m_folder, &QPushButton::clicked, this, &LogPage::openFolder);
+    const auto goOn = [this] { m_sought = LogSought(); };
+    connect(m_newest, &QPushButton::clicked, this, goOn);
     connect(m_newest, &QPushButton::clicked, m_view, &LogView::follow);
+    connect(m_view, &LogView::handled, this, goOn);
     connect(m_view, &LogView::currentChanged, this, &LogPage::showDetail);
     connect(m_view, &LogView::followingChanged, this, [this](bool following) {
         m_nothingThatLate = m_nothingThatLate && following;

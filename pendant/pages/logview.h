@@ -45,6 +45,8 @@ public:
 signals:
     void followingChanged(bool following);
     void currentChanged();
+    /// Somebody scrolls, presses a row or a key.
+    void handled();
 
 protected:
     bool viewportEvent(QEvent* event) override;

@@ -66,11 +66,13 @@ void LogView::resizeEvent(QResizeEvent* event) {
 }
 
 void LogView::wheelEvent(QWheelEvent* event) {
+    emit handled();
     scrollBy(-event->angleDelta().y() * rowsPerNotch * rowHeight / unitsPerNotch);
     event->accept();
 }
 
 void LogView::keyPressEvent(QKeyEvent* event) {
+    emit handled();
     const int page = viewport()->height() - rowHeight;
     switch (event->key()) {
     case Qt::Key_Up:
@@ -95,6 +97,7 @@ void LogView::keyPressEvent(QKeyEvent* event) {
 }
 
 void LogView::mousePressEvent(QMouseEvent* event) {
+    emit handled();
     m_pressed = rowUnder(event->pos().y());
 }
 
